@@ -1,0 +1,74 @@
+#include "cli/Cli.h"
+
+#include <exception>
+#include <functional>
+
+#include "cli/CliCommands.h"
+#include "cli/CliError.h"
+
+namespace sonalyx::cli {
+
+namespace {
+
+struct CommandEntry {
+  const char* name;
+  const char* usage;  // the lines of the usage text, after "sonalyx-cli "
+  std::function<int(const Arguments&, std::ostream&)> run;
+};
+
+const std::vector<CommandEntry>& commandTable() {
+  static const std::vector<CommandEntry> table = {
+  };
+  return table;
+}
+
+void writeUsage(std::ostream& to) {
+  to << "usage:\n";
+  for (const auto& entry : commandTable()) {
+    std::string usage = entry.usage;
+    std::size_t start = 0;
+    while (start < usage.size()) {
+      const std::size_t end = usage.find('\n', start);
+      to << "  sonalyx-cli " << usage.substr(start, end - start) << '\n';
+      if (end == std::string::npos) break;
+      start = end + 1;
+    }
+  }
+}
+
+}  // namespace
+
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+  if (args.empty()) {
+    writeUsage(err);
+    return 2;
+  }
+  if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
+    writeUsage(out);
+    return 0;
+  }
+  const CommandEntry* command = nullptr;
+  for (const auto& entry : commandTable()) {
+    if (args[0] == entry.name) command = &entry;
+  }
+  if (command == nullptr) {
+    err << "sonalyx-cli: unknown command '" << args[0] << "'\n";
+    writeUsage(err);
+    return 2;
+  }
+  try {
+    const Arguments rest(args.begin() + 1, args.end());
+    return command->run(rest, out);
+  } catch (const CliError& e) {
+    out.flush();
+    err << e.what() << '\n';
+    if (e.isUsage()) writeUsage(err);
+    return e.exitStatus();
+  } catch (const std::exception& e) {
+    out.flush();
+    err << e.what() << '\n';
+    return 1;
+  }
+}
+
+}  // namespace sonalyx::cli
