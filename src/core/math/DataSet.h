@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+#include "core/math/DataPoint.h"
+#include "core/math/Extremum.h"
+
+namespace sonalyx {
+
+// An ordered list of points and the turning-point list built from it. The program
+// keeps four: data set 1, data set 2, their sum and their difference.
+class DataSet {
+ public:
+  enum Slot : int { Data1 = 0, Data2 = 1, Sum = 2, Difference = 3 };
+
+  void clear();
+  // At least one point, and the first point's y is not the absent marker.
+  bool hasData() const;
+  std::size_t count() const { return m_points.size(); }
+
+  const std::vector<DataPoint>& points() const { return m_points; }
+  const DataPoint& at(std::size_t i) const { return m_points.at(i); }
+  // Replaces every point; the turning points must be found again.
+  void assign(std::vector<DataPoint> points);
+  void append(const DataPoint& point);
+
+  double getX(std::size_t i) const;  // kAbsent past the end
+  bool setY(std::size_t i, double v);
+  bool setDerivative(std::size_t i, double v);
+  bool setIntegral(std::size_t i, double v);
+  bool setTrend(std::size_t i, std::int32_t t);
+  // Table editing: i == count() appends a point whose other coordinate is 0.
+  bool setXAt(std::size_t i, double v);
+  bool setYAt(std::size_t i, double v);
+
+  // n points from x0 to x1, the step accumulated point by point.
+  bool makeGrid(double x0, double x1, std::size_t n);
+
+  // (minimum, maximum) of x or cartX, and of y or cartY; an empty set gives
+  // (largest double, minus largest double).
+  std::pair<double, double> rangeX(bool useCartesian) const;
+  std::pair<double, double> rangeY(bool useCartesian) const;
+
+  // Polar to Cartesian for every point of a set with data; returns how many.
+  std::size_t toCartesian();
+
+  // result = a + b (add) or a - b, matched by index over a grid spanning a's x
+  // range. Leaves result untouched when either lacks data or the counts differ.
+  static void combine(DataSet& result, const DataSet& a, const DataSet& b, bool add);
+
+  // Builds the turning-point list once per fill; false when there are no points
+  // or the list is already built.
+  bool findExtrema();
+  bool extremaValid() const { return m_extremaValid; }
+  const std::vector<Extremum>& extrema() const { return m_extrema; }
+
+ private:
+  std::vector<DataPoint> m_points;
+  std::vector<Extremum> m_extrema;
+  bool m_extremaValid = false;
+};
+
+}  // namespace sonalyx
