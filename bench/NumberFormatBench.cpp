@@ -6,7 +6,8 @@
 static void BM_FormatDataSetLine(benchmark::State& state) {
   double x = -10.0;
   for (auto _ : state) {
-    std::string line = sonalyx::formatNumber(x, "%-10.10g") + ' ' + sonalyx::formatNumber(x * 1e-9, "%10.10g");
+    std::string line =
+        sonalyx::formatNumber(x, "%-10.10g") + ' ' + sonalyx::formatNumber(x * 1e-9, "%10.10g");
     benchmark::DoNotOptimize(line);
     x += 0.04;
   }

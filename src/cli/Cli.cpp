@@ -17,8 +17,7 @@ struct CommandEntry {
 };
 
 const std::vector<CommandEntry>& commandTable() {
-  static const std::vector<CommandEntry> table = {
-  };
+  static const std::vector<CommandEntry> table = {};
   return table;
 }
 

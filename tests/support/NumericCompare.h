@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <sstream>
 #include <string>
 
 namespace sonalyx::test {
@@ -24,10 +25,10 @@ inline ::testing::AssertionResult agreesTo(double actual, double expected, int s
   if (difference <= absoluteFloor) return ::testing::AssertionSuccess();
   const double tolerance = std::fabs(expected) * 0.5 * std::pow(10.0, 1 - significantDigits);
   if (difference <= tolerance) return ::testing::AssertionSuccess();
-  ::testing::Message m;
+  std::ostringstream m;
   m.precision(17);
   m << "actual " << actual << ", expected " << expected << " (to " << significantDigits << " digits)";
-  return ::testing::AssertionFailure() << m;
+  return ::testing::AssertionFailure() << m.str();
 }
 
 }  // namespace sonalyx::test

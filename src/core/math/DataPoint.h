@@ -14,7 +14,7 @@ struct DataPoint {
   double x = 0.0;  // for a polar set, the angle in radians
   double y = 0.0;  // for a polar set, the radius
   double derivative = kAbsent;
-  double integral = kAbsent;  // from the first point's x to this x
+  double integral = kAbsent;          // from the first point's x to this x
   std::int32_t trend = kAbsentTrend;  // +1, -1 or 0: change of the derivative
   double cartX = kAbsent;
   double cartY = kAbsent;

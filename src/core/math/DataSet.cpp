@@ -10,7 +10,9 @@ void DataSet::clear() {
   m_extremaValid = false;
 }
 
-bool DataSet::hasData() const { return !m_points.empty() && m_points.front().y != kAbsent; }
+bool DataSet::hasData() const {
+  return !m_points.empty() && m_points.front().y != kAbsent;
+}
 
 void DataSet::assign(std::vector<DataPoint> points) {
   clear();
@@ -22,7 +24,9 @@ void DataSet::append(const DataPoint& point) {
   m_extremaValid = false;
 }
 
-double DataSet::getX(std::size_t i) const { return i < m_points.size() ? m_points[i].x : kAbsent; }
+double DataSet::getX(std::size_t i) const {
+  return i < m_points.size() ? m_points[i].x : kAbsent;
+}
 
 bool DataSet::setY(std::size_t i, double v) {
   if (i >= m_points.size()) return false;

@@ -39,7 +39,8 @@ Conversion parseConversion(std::string_view text) {
   if (i < text.size() && text[i] == '.') {
     ++i;
     c.precision = 0;
-    for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i) c.precision = c.precision * 10 + (text[i] - '0');
+    for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
+      c.precision = c.precision * 10 + (text[i] - '0');
   }
   if (i + 1 != text.size()) fail();
   c.type = text[i];
@@ -93,6 +94,8 @@ std::string formatNumber(double value, std::string_view conversion) {
   return pad(std::move(body), c, true);
 }
 
-std::string formatG(double value, int precision) { return formatNumber(value, "%." + std::to_string(precision) + "g"); }
+std::string formatG(double value, int precision) {
+  return formatNumber(value, "%." + std::to_string(precision) + "g");
+}
 
 }  // namespace sonalyx
