@@ -17,7 +17,11 @@ struct CommandEntry {
 };
 
 const std::vector<CommandEntry>& commandTable() {
-  static const std::vector<CommandEntry> table = {};
+  static const std::vector<CommandEntry> table = {
+      {"text",
+       "text expand TEXT\ntext round TEXT DIGITS\ntext key ID\ntext language [LOCALE]\ntext coords X Y",
+       runTextCommand},
+  };
   return table;
 }
 

@@ -10,4 +10,8 @@ namespace sonalyx::cli {
 // `out`. Failures are thrown as CliError; the return value is the exit status.
 using Arguments = std::vector<std::string>;
 
+// The words the program says and the display rounding: expand, round, key,
+// language, coords.
+int runTextCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+
+namespace sonalyx {
+
+// Fixed words of the calculator page, in English; each is its own translation key.
+inline constexpr std::string_view kDisplaySpokenLabel = "Display. ";  // the display's text follows
+inline constexpr std::string_view kInverseSpokenLabel = "inverse";
+inline constexpr std::string_view kHyperbolicSpokenLabel = "hyperbolic";
+inline constexpr std::string_view kRightShiftWord = "right shift";
+
+inline constexpr std::string_view kHyperbolicChecked = "Hyperbolic check box: checked.";
+inline constexpr std::string_view kHyperbolicUnchecked = "Hyperbolic check box: unchecked.";
+inline constexpr std::string_view kInverseChecked = "Inverse check box: checked.";
+inline constexpr std::string_view kInverseUnchecked = "Inverse check box: unchecked.";
+
+// The number base announced for the base selector's index: 0 hexadecimal (spelled
+// "hexidecimal." as the dictionaries know it), 1 decimal, 2 octal, 3 binary.
+// Throws std::out_of_range for any other index.
+std::string_view numberBaseAnnouncement(int index);
+
+// The angle mode announced for the angle selector's index: 0 degrees, 1 radians,
+// 2 grad. Throws std::out_of_range for any other index.
+std::string_view angleModeAnnouncement(int index);
+
+}  // namespace sonalyx

@@ -1,0 +1,66 @@
+#include "core/speech/SymbolExpander.h"
+
+#include <utility>
+
+namespace sonalyx {
+
+namespace {
+
+constexpr SymbolWords kExpressionSymbols[] = {
+    {"-", " minus "},           {"+", " plus "},       {"*", " times "},       {"/", " divide "},
+    {"[", " begin matrix "},    {"]", " end matrix "}, {",", " column "},      {";", " row "},
+    {"^", " to the power of "}, {"(", " open paren "}, {")", " close paren "}, {"", ""},
+};
+
+// Bytes of the UTF-8 character that starts at `at`. A byte that does not start a
+// complete sequence counts as a character of its own, so that a broken text loses
+// nothing and the symbols after it are still read.
+std::size_t characterLength(const std::string& text, std::size_t at) {
+  const auto lead = static_cast<unsigned char>(text[at]);
+  std::size_t length = 1;
+  if (lead >= 0xC2 && lead <= 0xDF) {
+    length = 2;
+  } else if (lead >= 0xE0 && lead <= 0xEF) {
+    length = 3;
+  } else if (lead >= 0xF0 && lead <= 0xF4) {
+    length = 4;
+  }
+  if (at + length > text.size()) return 1;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((static_cast<unsigned char>(text[at + i]) & 0xC0) != 0x80) return 1;
+  }
+  return length;
+}
+
+}  // namespace
+
+std::span<const SymbolWords> expressionSymbolTable() {
+  return kExpressionSymbols;
+}
+
+SymbolExpander::SymbolExpander(std::span<const SymbolWords> table, Translator translator)
+    : m_table(table), m_translator(std::move(translator)) {}
+
+void SymbolExpander::BuildSymbolMap() {
+  if (!m_symbolMap.empty() || m_table.empty() || m_table.front().symbol.empty()) return;
+  for (const SymbolWords& row : m_table) {
+    if (row.symbol.empty() && row.spoken.empty()) break;
+    m_symbolMap.emplace(std::string(row.symbol), translateWith(m_translator, std::string(row.spoken)));
+  }
+}
+
+void SymbolExpander::ExpandSymbols(std::string& text) const {
+  std::string expanded;
+  expanded.reserve(text.size() * 2);
+  std::size_t i = 0;
+  while (i < text.size()) {
+    const std::size_t length = characterLength(text, i);
+    const std::string character = text.substr(i, length);
+    const auto found = m_symbolMap.find(character);
+    expanded += found != m_symbolMap.end() ? found->second : character;
+    i += length;
+  }
+  text = std::move(expanded);
+}
+
+}  // namespace sonalyx

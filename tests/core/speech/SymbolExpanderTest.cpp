@@ -1,0 +1,93 @@
+#include "core/speech/SymbolExpander.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace sonalyx {
+namespace {
+
+struct ExpandCase {
+  const char* text;
+  const char* expected;
+};
+
+TEST(SymbolExpander, ReadsExpressionSymbolsAsWords) {
+  const ExpandCase cases[] = {
+      {"[1,2;3,4]^2", " begin matrix 1 column 2 row 3 column 4 end matrix  to the power of 2"},
+      {"2*3", "2 times 3"},
+      {"a-b+c/d", "a minus b plus c divide d"},
+      {"(x)", " open paren x close paren "},
+      {"--", " minus  minus "},
+      {"1e-007", "1e minus 007"},
+      {"", ""},
+      {"sin x", "sin x"},
+      {"3.5 = 7/2", "3.5 = 7 divide 2"},
+      // Characters of several bytes are kept whole, next to symbols too.
+      {"\xcf\x80*2", "\xcf\x80 times 2"},
+      {"x\xc2\xb2-\xe2\x88\x9a"
+       "4",
+       "x\xc2\xb2 minus \xe2\x88\x9a"
+       "4"},
+      {"\xf0\x9d\x91\xa5+1", "\xf0\x9d\x91\xa5 plus 1"},
+      // A broken sequence loses no byte.
+      {"\xcf-", "\xcf minus "},
+      {"-\xe2\x88", " minus \xe2\x88"},
+  };
+  SymbolExpander expander;
+  expander.BuildSymbolMap();
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    expander.ExpandSymbols(text);
+    EXPECT_EQ(text, c.expected) << '"' << c.text << '"';
+  }
+}
+
+TEST(SymbolExpander, LeavesTextAloneUntilTheMapIsBuilt) {
+  SymbolExpander expander;
+  std::string text = "[1,2]";
+  expander.ExpandSymbols(text);
+  EXPECT_EQ(text, "[1,2]");
+  expander.BuildSymbolMap();
+  expander.ExpandSymbols(text);
+  EXPECT_EQ(text, " begin matrix 1 column 2 end matrix ");
+}
+
+TEST(SymbolExpander, CopiesTheTableUpToItsEmptyRow) {
+  struct TableCase {
+    std::vector<SymbolWords> table;
+    const char* text;
+    const char* expected;
+    std::size_t mapSize;
+  };
+  const TableCase cases[] = {
+      {{{"a", " A "}, {"", ""}, {"b", " B "}}, "ab", " A b", 1}, {{{"", ""}, {"a", " A "}}, "ab", "ab", 0},
+      {{{"", " nothing "}, {"a", " A "}}, "ab", "ab", 0},        {{}, "ab", "ab", 0},
+      {{{"a", " A "}, {"b", " B "}}, "abc", " A  B c", 2},
+  };
+  for (const auto& c : cases) {
+    SymbolExpander expander(c.table);
+    expander.BuildSymbolMap();
+    std::string text = c.text;
+    expander.ExpandSymbols(text);
+    EXPECT_EQ(text, c.expected) << c.text;
+    EXPECT_EQ(expander.symbolMap().size(), c.mapSize) << c.text;
+  }
+}
+
+TEST(SymbolExpander, TranslatesEachReplacementOnceWhenBuilt) {
+  int calls = 0;
+  SymbolExpander expander(expressionSymbolTable(), [&calls](const std::string& english) {
+    ++calls;
+    return english == " times " ? std::string(" mal ") : english;
+  });
+  expander.BuildSymbolMap();
+  expander.BuildSymbolMap();
+  std::string text = "2*3-1";
+  expander.ExpandSymbols(text);
+  EXPECT_EQ(text, "2 mal 3 minus 1");
+  EXPECT_EQ(calls, 11);
+}
+
+}  // namespace
+}  // namespace sonalyx
