@@ -17,7 +17,9 @@ struct CommandEntry {
 };
 
 const std::vector<CommandEntry>& commandTable() {
-  static const std::vector<CommandEntry> table = {};
+  static const std::vector<CommandEntry> table = {
+      {"set", "set write FILE X Y [X Y ...]\nset read FILE\nset clipboard FILE", runSetCommand},
+  };
   return table;
 }
 

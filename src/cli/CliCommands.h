@@ -10,4 +10,7 @@ namespace sonalyx::cli {
 // `out`. Failures are thrown as CliError; the return value is the exit status.
 using Arguments = std::vector<std::string>;
 
+// set write FILE X Y [X Y ...] | set read FILE | set clipboard FILE
+int runSetCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli
