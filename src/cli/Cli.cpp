@@ -21,13 +21,16 @@ const std::vector<CommandEntry>& commandTable() {
       {"text",
        "text expand TEXT\ntext round TEXT DIGITS\ntext key ID\ntext language [LOCALE]\ntext coords X Y",
        runTextCommand},
+      {"set", "set write FILE X Y [X Y ...]\nset read FILE\nset clipboard FILE", runSetCommand},
   };
   return table;
 }
 
-void writeUsage(std::ostream& to) {
+// The usage of one command group after its own mistake, of all of them otherwise.
+void writeUsage(std::ostream& to, const CommandEntry* only = nullptr) {
   to << "usage:\n";
   for (const auto& entry : commandTable()) {
+    if (only != nullptr && only != &entry) continue;
     std::string usage = entry.usage;
     std::size_t start = 0;
     while (start < usage.size()) {
@@ -65,7 +68,7 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
   } catch (const CliError& e) {
     out.flush();
     err << e.what() << '\n';
-    if (e.isUsage()) writeUsage(err);
+    if (e.isUsage()) writeUsage(err, command);
     return e.exitStatus();
   } catch (const std::exception& e) {
     out.flush();

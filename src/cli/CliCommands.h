@@ -13,5 +13,7 @@ using Arguments = std::vector<std::string>;
 // The words the program says and the display rounding: expand, round, key,
 // language, coords.
 int runTextCommand(const Arguments& args, std::ostream& out);
+// set write FILE X Y [X Y ...] | set read FILE | set clipboard FILE
+int runSetCommand(const Arguments& args, std::ostream& out);
 
 }  // namespace sonalyx::cli

@@ -1,6 +1,8 @@
 #include "core/math/DataSet.h"
 
 #include <cmath>
+#include <new>
+#include <stdexcept>
 
 namespace sonalyx {
 
@@ -31,6 +33,7 @@ double DataSet::getX(std::size_t i) const {
 bool DataSet::setY(std::size_t i, double v) {
   if (i >= m_points.size()) return false;
   m_points[i].y = v;
+  m_extremaValid = false;  // the turning points follow y
   return true;
 }
 
@@ -61,34 +64,39 @@ bool DataSet::setXAt(std::size_t i, double v) {
   DataPoint p;
   p.x = v;
   p.y = 0.0;
-  m_points.push_back(p);
+  append(p);
   return true;
 }
 
 bool DataSet::setYAt(std::size_t i, double v) {
-  if (i < m_points.size()) {
-    m_points[i].y = v;
-    return true;
-  }
+  if (i < m_points.size()) return setY(i, v);
   if (i > m_points.size()) return false;
   DataPoint p;
   p.x = 0.0;
   p.y = v;
-  m_points.push_back(p);
+  append(p);
   return true;
 }
 
 bool DataSet::makeGrid(double x0, double x1, std::size_t n) {
   // Written so that a NaN bound fails too.
   if (!(x0 <= x1) || n < 2) return false;
-  clear();
-  m_points.resize(n);
+  // Built aside, so that a grid too large for memory fails and keeps the old points.
+  std::vector<DataPoint> grid;
+  try {
+    grid.resize(n);
+  } catch (const std::length_error&) {
+    return false;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
   const double step = (x1 - x0) / static_cast<double>(n - 1);
   double x = x0;
-  for (std::size_t i = 0; i < n; ++i) {
-    m_points[i].x = x;
+  for (auto& p : grid) {
+    p.x = x;
     x += step;  // accumulated on purpose: the last x may miss x1 by rounding
   }
+  assign(std::move(grid));
   return true;
 }
 

@@ -28,6 +28,8 @@ class DataSet {
   void append(const DataPoint& point);
 
   double getX(std::size_t i) const;  // kAbsent past the end
+  // The setters return false and change nothing past the end. Any change of a y or
+  // of the point count makes the turning points due for rebuilding.
   bool setY(std::size_t i, double v);
   bool setDerivative(std::size_t i, double v);
   bool setIntegral(std::size_t i, double v);
@@ -36,7 +38,8 @@ class DataSet {
   bool setXAt(std::size_t i, double v);
   bool setYAt(std::size_t i, double v);
 
-  // n points from x0 to x1, the step accumulated point by point.
+  // n points from x0 to x1, the step accumulated point by point. False, with the
+  // set unchanged, for x0 > x1, n < 2 or a grid that does not fit in memory.
   bool makeGrid(double x0, double x1, std::size_t n);
 
   // (minimum, maximum) of x or cartX, and of y or cartY; an empty set gives
