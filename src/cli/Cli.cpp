@@ -17,7 +17,10 @@ struct CommandEntry {
 };
 
 const std::vector<CommandEntry>& commandTable() {
-  static const std::vector<CommandEntry> table = {};
+  static const std::vector<CommandEntry> table = {
+      {"eval", "eval EXPRESSION", runEvalCommand},
+      {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar]", runSampleCommand},
+  };
   return table;
 }
 

@@ -10,4 +10,10 @@ namespace sonalyx::cli {
 // `out`. Failures are thrown as CliError; the return value is the exit status.
 using Arguments = std::vector<std::string>;
 
+// eval EXPRESSION: prints the value with 14 significant digits.
+int runEvalCommand(const Arguments& args, std::ostream& out);
+// sample EXPRESSION [--from A] [--to B] [--points N] [--polar]: one line per point,
+// x, y, derivative, integral and trend separated by tabs.
+int runSampleCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli
