@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <numbers>
 #include <string_view>
@@ -16,6 +17,9 @@ using UnaryFunction = double (*)(double);
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                   1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 // Deep enough for any expression a person types, shallow enough that a text of
 // thousands of brackets fails instead of exhausting the stack.
@@ -220,12 +224,47 @@ class Parser {
   }
 
   bool number(double& value) {
+    // Fast path for the short decimals that sampling writes: with at most 19
+    // digits whose value fits in 2^53 and a power of ten up to 22, both operands of
+    // one multiplication or division are exact, so its single rounding gives the
+    // correctly rounded value. Anything else takes the full reading.
+    std::size_t i = m_pos;
+    std::uint64_t mantissa = 0;
+    int digits = 0;
+    int scale = 0;
+    for (; i < m_text.size() && isDigit(m_text[i]); ++i, ++digits) mantissa = mantissa * 10 + digitAt(i);
+    if (i < m_text.size() && m_text[i] == '.') {
+      for (++i; i < m_text.size() && isDigit(m_text[i]); ++i, ++digits, --scale)
+        mantissa = mantissa * 10 + digitAt(i);
+    }
+    if (digits == 0) return false;  // a lone "."
+    if (i < m_text.size() && (m_text[i] == 'e' || m_text[i] == 'E')) {
+      std::size_t j = i + 1;
+      const bool negative = j < m_text.size() && m_text[j] == '-';
+      if (j < m_text.size() && (m_text[j] == '-' || m_text[j] == '+')) ++j;
+      if (j < m_text.size() && isDigit(m_text[j])) {
+        int exponent = 0;
+        for (; j < m_text.size() && isDigit(m_text[j]); ++j) {
+          if (exponent < 100000) exponent = exponent * 10 + digitAt(j);
+        }
+        scale += negative ? -exponent : exponent;
+        i = j;
+      }
+    }
+    constexpr std::uint64_t kExactLimit = std::uint64_t{1} << 53;
+    if (digits <= 19 && mantissa <= kExactLimit && scale >= -22 && scale <= 22) {
+      const double m = static_cast<double>(mantissa);
+      value = scale < 0 ? m / kPowersOfTen[-scale] : m * kPowersOfTen[scale];
+      m_pos = i;
+      return true;
+    }
     std::size_t used = 0;
     value = decimalToDouble(m_text.substr(m_pos), &used);
-    if (used == 0) return false;  // a lone "."
     m_pos += used;
     return true;
   }
+
+  int digitAt(std::size_t i) const { return m_text[i] - '0'; }
 
   std::string_view m_text;
   std::size_t m_pos = 0;

@@ -46,6 +46,40 @@ TEST(Evaluator, ReadsNumbersAndConstants) {
   expectValues(std::begin(cases), std::end(cases));
 }
 
+TEST(Evaluator, ReadsNumbersToTheNearestDouble) {
+  // 17 digits: nothing but the correctly rounded double passes.
+  const ValueCase cases[] = {
+      {"0.1", 0.1},
+      {"0.3", 0.3},
+      {"-0.94910791234276", -0.94910791234276},
+      {"0.4058451513774", 0.4058451513774},
+      {"9.9599999999999", 9.9599999999999},
+      {"1e-007", 1e-7},
+      {"2.5e-007", 2.5e-7},
+      {"1.0000001666667", 1.0000001666667},
+      {"1e22", 1e22},
+      {"1e23", 1e23},
+      {"1e-22", 1e-22},
+      {"1e-23", 1e-23},
+      {"9007199254740992", 9007199254740992.0},
+      {"9007199254740993", 9007199254740993.0},
+      {"9007199254740993e-3", 9007199254740.993},
+      {"1234567890123456789", 1234567890123456789.0},
+      {"12345678901234567890123", 12345678901234567890123.0},
+      {"0.000000000000000000000000001", 1e-27},
+      {".0001e+4", 1.0},
+      {"1.7976931348623157e308", 1.7976931348623157e308},
+      {"4.9406564584124654e-324", 4.9406564584124654e-324},
+      {"123.456e-2", 1.23456},
+  };
+  for (const auto& c : cases) {
+    double result = 0.0;
+    std::string error;
+    ASSERT_TRUE(Calculate(c.expression, result, error)) << c.expression;
+    EXPECT_TRUE(agreesTo(result, c.expected, 17)) << c.expression;
+  }
+}
+
 TEST(Evaluator, FollowsPrecedenceAndAssociativity) {
   const ValueCase cases[] = {
       {"1+2*3", 7.0},  {"(1+2)*3", 9.0},   {"10-4-3", 3.0},   {"2/4/8", 0.0625}, {"2*3/4", 1.5},
