@@ -22,6 +22,8 @@ const std::vector<CommandEntry>& commandTable() {
        "text expand TEXT\ntext round TEXT DIGITS\ntext key ID\ntext language [LOCALE]\ntext coords X Y",
        runTextCommand},
       {"set", "set write FILE X Y [X Y ...]\nset read FILE\nset clipboard FILE", runSetCommand},
+      {"eval", "eval EXPRESSION", runEvalCommand},
+      {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar]", runSampleCommand},
   };
   return table;
 }

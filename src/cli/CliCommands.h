@@ -15,5 +15,10 @@ using Arguments = std::vector<std::string>;
 int runTextCommand(const Arguments& args, std::ostream& out);
 // set write FILE X Y [X Y ...] | set read FILE | set clipboard FILE
 int runSetCommand(const Arguments& args, std::ostream& out);
+// eval EXPRESSION: prints the value with 14 significant digits.
+int runEvalCommand(const Arguments& args, std::ostream& out);
+// sample EXPRESSION [--from A] [--to B] [--points N] [--polar]: one line per point,
+// x, y, derivative, integral and trend separated by tabs.
+int runSampleCommand(const Arguments& args, std::ostream& out);
 
 }  // namespace sonalyx::cli

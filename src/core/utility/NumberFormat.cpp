@@ -87,9 +87,17 @@ std::string formatNumber(double value, std::string_view conversion) {
   std::string spec = "%" + c.flags;
   if (c.precision >= 0) spec += "." + std::to_string(c.precision);
   spec += c.type;
-  const int n = std::snprintf(nullptr, 0, spec.c_str(), value);
-  std::string body(n > 0 ? static_cast<std::size_t>(n) : 0, '\0');
-  std::snprintf(body.data(), body.size() + 1, spec.c_str(), value);
+  // One conversion into a stack buffer in the common case: sampling writes
+  // hundreds of thousands of numbers into expressions.
+  char buffer[64];
+  const int n = std::snprintf(buffer, sizeof buffer, spec.c_str(), value);
+  std::string body;
+  if (n >= 0 && static_cast<std::size_t>(n) < sizeof buffer) {
+    body.assign(buffer, static_cast<std::size_t>(n));
+  } else {
+    body.assign(n > 0 ? static_cast<std::size_t>(n) : 0, '\0');
+    std::snprintf(body.data(), body.size() + 1, spec.c_str(), value);
+  }
   widenExponent(body);
   return pad(std::move(body), c, true);
 }

@@ -1,0 +1,23 @@
+#include <string>
+
+#include "cli/CliCommands.h"
+#include "cli/CliError.h"
+#include "core/engines/Evaluator.h"
+#include "core/utility/NumberFormat.h"
+
+namespace sonalyx::cli {
+
+// eval EXPRESSION: the words are joined with blanks, so the expression need not
+// be quoted as long as the shell leaves its characters alone.
+int runEvalCommand(const Arguments& args, std::ostream& out) {
+  if (args.empty()) throw CliError::usage("eval: no expression given");
+  std::string expression = args.front();
+  for (std::size_t i = 1; i < args.size(); ++i) expression += ' ' + args[i];
+  double result = 0.0;
+  std::string error;
+  if (!Calculate(expression, result, error)) throw CliError::user(error);
+  out << formatNumber(result, "%.14g") << '\n';
+  return 0;
+}
+
+}  // namespace sonalyx::cli
