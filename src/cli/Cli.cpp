@@ -23,7 +23,7 @@ const std::vector<CommandEntry>& commandTable() {
        runTextCommand},
       {"set", "set write FILE X Y [X Y ...]\nset read FILE\nset clipboard FILE", runSetCommand},
       {"eval", "eval EXPRESSION", runEvalCommand},
-      {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar]", runSampleCommand},
+      {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar] [-o FILE]", runSampleCommand},
   };
   return table;
 }

@@ -4,6 +4,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "core/files/DataSetFile.h"
 #include "core/math/DataSet.h"
 #include "core/math/FunctionSampler.h"
 #include "core/utility/DecimalText.h"
@@ -56,10 +57,11 @@ const char* trendText(std::int32_t trend) {
 
 }  // namespace
 
-// sample EXPRESSION [--from A] [--to B] [--points N] [--polar]
+// sample EXPRESSION [--from A] [--to B] [--points N] [--polar] [-o FILE]
 int runSampleCommand(const Arguments& args, std::ostream& out) {
   SamplingDomain domain = defaultSamplingDomain();
   bool polar = false;
+  std::string saveAs;
   std::string expression;
   bool haveExpression = false;
   for (std::size_t i = 0; i < args.size(); ++i) {
@@ -74,6 +76,9 @@ int runSampleCommand(const Arguments& args, std::ostream& out) {
       } else {
         domain.points = countOption(word, value);
       }
+    } else if (word == "-o") {
+      if (i + 1 >= args.size()) throw CliError::usage(word + " needs a file name");
+      saveAs = args[++i];
     } else if (word == "--polar") {
       polar = true;
     } else if (word.size() > 2 && word.compare(0, 2, "--") == 0 && word[2] >= 'a' && word[2] <= 'z') {
@@ -93,6 +98,10 @@ int runSampleCommand(const Arguments& args, std::ostream& out) {
   if (!sampler.computeFunction(set, expression, domain.x0, domain.x1, domain.points, error))
     throw CliError::user(error);
   if (polar) set.toCartesian();
+  if (!saveAs.empty()) {
+    out << saveDataSetFile(saveAs, set) << '\n';
+    return 0;
+  }
 
   for (const DataPoint& p : set.points()) {
     out << column(p.x) << '\t' << column(p.y) << '\t' << column(p.derivative) << '\t' << column(p.integral)
