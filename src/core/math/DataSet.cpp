@@ -31,6 +31,7 @@ double DataSet::getX(std::size_t i) const {
 bool DataSet::setY(std::size_t i, double v) {
   if (i >= m_points.size()) return false;
   m_points[i].y = v;
+  m_extremaValid = false;
   return true;
 }
 
@@ -53,6 +54,8 @@ bool DataSet::setTrend(std::size_t i, std::int32_t t) {
 }
 
 bool DataSet::setXAt(std::size_t i, double v) {
+  // An edited table must not be stepped through with the turning points of before.
+  if (i <= m_points.size()) m_extremaValid = false;
   if (i < m_points.size()) {
     m_points[i].x = v;
     return true;
@@ -66,6 +69,7 @@ bool DataSet::setXAt(std::size_t i, double v) {
 }
 
 bool DataSet::setYAt(std::size_t i, double v) {
+  if (i <= m_points.size()) m_extremaValid = false;
   if (i < m_points.size()) {
     m_points[i].y = v;
     return true;
