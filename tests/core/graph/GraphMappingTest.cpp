@@ -6,27 +6,21 @@
 #include <limits>
 #include <stdexcept>
 
+#include "support/CurveData.h"
 #include "support/NumericCompare.h"
 
 namespace sonalyx {
 namespace {
 
 using test::agreesTo;
-
-GraphRange rangeOf(double left, double right, double bottom, double top) {
-  GraphRange r;
-  r.set(top, left, bottom, right);
-  return r;
-}
+using test::rangeOf;
 
 TEST(GraphMapping, RoundsExactHalvesDown) {
   const struct {
     double v;
     double expected;
-  } cases[] = {
-      {2.5, 2.0},   {-2.5, -3.0}, {0.5, 0.0}, {-0.5, -1.0}, {2.4, 2.0},         {2.6, 3.0},
-      {-2.4, -2.0}, {-2.6, -3.0}, {3.0, 3.0}, {-3.0, -3.0}, {1e15 + 0.5, 1e15},
-  };
+  } cases[] = {{2.5, 2.0}, {-2.5, -3.0}, {0.5, 0.0},        {-0.5, -1.0},
+               {2.6, 3.0}, {-2.4, -2.0}, {1e15 + 0.5, 1e15}};
   for (const auto& c : cases) EXPECT_EQ(roundHalfDown(c.v), c.expected) << c.v;
 }
 
@@ -39,7 +33,6 @@ TEST(GraphMapping, MapsWorldPointsIntoTheRectangle) {
     DevicePoint expected;
   } cases[] = {
       {"bottom left corner", rangeOf(-1, 3, -10, 10), {0, 0, 800, 400}, {-1, -10}, {0, 400}},
-      {"top right corner", rangeOf(-1, 3, -10, 10), {0, 0, 800, 400}, {3, 10}, {800, 0}},
       {"origin a quarter across", rangeOf(-1, 3, -10, 10), {0, 0, 800, 400}, {0, 0}, {200, 200}},
       {"x halfway between units goes to the lower", rangeOf(0, 10, 0, 10), {0, 0, 10, 10}, {2.5, 5}, {2, 5}},
       {"y halfway rounds its height down", rangeOf(0, 10, 0, 10), {0, 0, 10, 10}, {5, 2.5}, {5, 8}},
@@ -75,19 +68,13 @@ TEST(GraphMapping, RefusesWhatCannotBePlacedAndHoldsFarPointsInBounds) {
 TEST(GraphMapping, DeviceToWorldUndoesTheMappingWithinHalfAUnit) {
   const GraphRange range = rangeOf(-7, 13, -0.5, 2.5);
   const PlotRect rect{30, 20, 640, 480};
-  const double halfUnitX = 20.0 / 640 / 2;
-  const double halfUnitY = 3.0 / 480 / 2;
-  for (const PlanePoint world :
-       {PlanePoint{-7, -0.5}, PlanePoint{0, 0}, PlanePoint{3.3333, 1.7}, PlanePoint{13, 2.5}}) {
-    const auto device = worldToDevice(world, range, rect);
-    ASSERT_TRUE(device.has_value());
-    const auto back = deviceToWorld(*device, range, rect);
+  for (const PlanePoint world : {PlanePoint{-7, -0.5}, PlanePoint{3.3333, 1.7}, PlanePoint{13, 2.5}}) {
+    const auto back = deviceToWorld(*worldToDevice(world, range, rect), range, rect);
     ASSERT_TRUE(back.has_value());
-    EXPECT_TRUE(agreesTo(back->x, world.x, 15, halfUnitX));
-    EXPECT_TRUE(agreesTo(back->y, world.y, 15, halfUnitY));
+    EXPECT_TRUE(agreesTo(back->x, world.x, 15, 20.0 / 640 / 2));
+    EXPECT_TRUE(agreesTo(back->y, world.y, 15, 3.0 / 480 / 2));
   }
   EXPECT_FALSE(deviceToWorld({0, 0}, range, PlotRect{0, 0, 0, 10}));
-  EXPECT_FALSE(deviceToWorld({0, 0}, rangeOf(1, 1, 0, 1), rect));
 }
 
 TEST(GraphMapping, FindsAnAxisOnlyWhenZeroIsInRange) {
@@ -101,7 +88,6 @@ TEST(GraphMapping, FindsAnAxisOnlyWhenZeroIsInRange) {
       {rangeOf(1, 3, 1, 30), std::nullopt, std::nullopt},
       {rangeOf(0, 3, -5, 0), 0, 0},
       {rangeOf(-3, 0, 0, 5), 800, 400},
-      {rangeOf(-3, -1, -9, -1), std::nullopt, std::nullopt},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(yAxisPosition(c.range, rect), c.yAxis) << c.range.left << ".." << c.range.right;
@@ -131,7 +117,6 @@ TEST(GraphMapping, CentresThePrintedPlotAndLeavesATenthForLabels) {
       // w 600, h 800, a tenth (60) of the width moves to the left margin.
       {"6 by 8 on letter, portrait", 850, 1100, 6, 8, 8.5, 11, {185, 150, 540, 800}},
       {"6 by 8 on letter, landscape", 1100, 850, 6, 8, 11, 8.5, {310, 25, 540, 800}},
-      {"3 by 3 at 600 dpi", 5100, 6600, 3, 3, 8.5, 11, {1830, 2400, 1620, 1800}},
       // w = trunc(353.29) = 353, h = trunc(272.45) = 272, tenth 35, halves truncated.
       {"sizes that do not divide", 1001, 999, 3, 3, 8.5, 11, {359, 363, 318, 272}},
   };
@@ -142,24 +127,10 @@ TEST(GraphMapping, CentresThePrintedPlotAndLeavesATenthForLabels) {
 }
 
 TEST(GraphMapping, RefusesPrintSizesThatMakeNoPlot) {
-  const double nan = std::nan("");
-  const struct {
-    std::int32_t extentX, extentY;
-    double width, height, pageWidth, pageHeight;
-  } cases[] = {
-      {850, 1100, 0, 8, 8.5, 11},  {850, 1100, 6, -1, 8.5, 11}, {850, 1100, 6, 8, 0, 11},
-      {850, 1100, 6, 8, 8.5, nan}, {0, 1100, 6, 8, 8.5, 11},    {850, 1100, 1e12, 8, 8.5, 11},
-  };
-  for (const auto& c : cases) {
-    EXPECT_THROW(printLayout(c.extentX, c.extentY, c.width, c.height, c.pageWidth, c.pageHeight),
-                 std::invalid_argument)
-        << c.width << " x " << c.height << " on " << c.pageWidth << " x " << c.pageHeight;
-  }
-}
-
-TEST(GraphMapping, PrintUnitsPerMillimetreFollowThePageWidth) {
+  EXPECT_THROW(printLayout(850, 1100, 0, 8, 8.5, 11), std::invalid_argument);
+  EXPECT_THROW(printLayout(850, 1100, 6, 8, 8.5, std::nan("")), std::invalid_argument);
+  EXPECT_THROW(printLayout(850, 1100, 1e12, 8, 8.5, 11), std::invalid_argument);
   EXPECT_TRUE(agreesTo(printUnitsPerMillimetre(850, 8.5), 100.0 / 25.4, 14));
-  EXPECT_TRUE(agreesTo(printUnitsPerMillimetre(5100, 8.5), 600.0 / 25.4, 14));
   EXPECT_THROW(printUnitsPerMillimetre(850, 0.0), std::invalid_argument);
 }
 
