@@ -54,8 +54,8 @@ class DataSet {
   // range. Leaves result untouched when either lacks data or the counts differ.
   static void combine(DataSet& result, const DataSet& a, const DataSet& b, bool add);
 
-  // Builds the turning-point list once per fill; false when there are no points
-  // or the list is already built.
+  // Builds the turning-point list once per change of the points' y (a fill, an
+  // append or an edit); false when there are no points or the list is up to date.
   bool findExtrema();
   bool extremaValid() const { return m_extremaValid; }
   const std::vector<Extremum>& extrema() const { return m_extrema; }
