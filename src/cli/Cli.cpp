@@ -24,6 +24,7 @@ const std::vector<CommandEntry>& commandTable() {
       {"set", "set write FILE X Y [X Y ...]\nset read FILE\nset clipboard FILE", runSetCommand},
       {"eval", "eval EXPRESSION", runEvalCommand},
       {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar] [-o FILE]", runSampleCommand},
+      {"features", "features FILE\nfeatures --expr EXPRESSION", runFeaturesCommand},
   };
   return table;
 }

@@ -21,4 +21,7 @@ int runEvalCommand(const Arguments& args, std::ostream& out);
 // x, y, derivative, integral and trend separated by tabs.
 int runSampleCommand(const Arguments& args, std::ostream& out);
 
+// Turning points and x-axis crossings of a data set or a sampled expression.
+int runFeaturesCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli

@@ -4,6 +4,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/SamplingDomain.h"
 #include "core/files/DataSetFile.h"
 #include "core/math/DataSet.h"
 #include "core/math/FunctionSampler.h"
@@ -13,18 +14,6 @@
 namespace sonalyx::cli {
 
 namespace {
-
-struct SamplingDomain {
-  double x0;
-  double x1;
-  int points;
-};
-
-// STAND-IN for the settings fxX0, fxX1 and fxNumPts (their defaults): to be read
-// from the settings store once it is part of the tool.
-SamplingDomain defaultSamplingDomain() {
-  return {-10.0, 10.0, 501};
-}
 
 double numberOption(const std::string& option, const std::string& text) {
   std::size_t used = 0;
@@ -59,7 +48,7 @@ const char* trendText(std::int32_t trend) {
 
 // sample EXPRESSION [--from A] [--to B] [--points N] [--polar] [-o FILE]
 int runSampleCommand(const Arguments& args, std::ostream& out) {
-  SamplingDomain domain = defaultSamplingDomain();
+  SamplingDomain domain = SamplingDomain::fromSettings();
   bool polar = false;
   std::string saveAs;
   std::string expression;
