@@ -17,7 +17,10 @@ struct CommandEntry {
 };
 
 const std::vector<CommandEntry>& commandTable() {
-  static const std::vector<CommandEntry> table = {};
+  static const std::vector<CommandEntry> table = {
+      {"settings", "settings path\nsettings list\nsettings get KEY\nsettings set KEY VALUE\nsettings delete",
+       runSettingsCommand},
+  };
   return table;
 }
 

@@ -10,4 +10,7 @@ namespace sonalyx::cli {
 // `out`. Failures are thrown as CliError; the return value is the exit status.
 using Arguments = std::vector<std::string>;
 
+// settings path | list | get KEY | set KEY VALUE | delete
+int runSettingsCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli
