@@ -129,27 +129,28 @@ bool RegFileBackend::keyHasContent() {
 }
 
 bool RegFileBackend::writeValue(std::string_view name, const RegistryValue& value) {
-  return modify([&](RegFileDocument& document) {
+  return modify(true, [&](RegFileDocument& document) {
     document.setValue(keyPath(), name, value);
     return true;
   });
 }
 
 bool RegFileBackend::deleteKey() {
-  return modify([](RegFileDocument& document) { return document.removeKey(keyPath()); });
+  return modify(false, [](RegFileDocument& document) { return document.removeKey(keyPath()); });
 }
 
 bool RegFileBackend::deleteValue(std::string_view name) {
-  return modify([&](RegFileDocument& document) { return document.removeValue(keyPath(), name); });
+  return modify(false, [&](RegFileDocument& document) { return document.removeValue(keyPath(), name); });
 }
 
-bool RegFileBackend::modify(const std::function<bool(RegFileDocument&)>& change) {
+bool RegFileBackend::modify(bool creates, const std::function<bool(RegFileDocument&)>& change) {
   // A settings file kept elsewhere through a symbolic link stays a link: the
   // change goes to the file it points at.
   std::error_code error;
   std::filesystem::path file = std::filesystem::canonical(m_file, error);
   if (error) file = m_file;
   const std::filesystem::path folder = file.parent_path().empty() ? "." : file.parent_path();
+  if (!creates && !std::filesystem::exists(folder, error) && !error) return true;
   std::filesystem::create_directories(folder, error);
   if (!std::filesystem::is_directory(folder, error)) return false;
 

@@ -42,7 +42,8 @@ class RegFileBackend : public SettingsBackend {
   // Nothing when the file exists but cannot be read.
   std::optional<RegFileDocument> load(const std::filesystem::path& file) const;
   // `change` returns false when it changed nothing; then nothing is written.
-  bool modify(const std::function<bool(RegFileDocument&)>& change);
+  // Without `creates`, a missing folder means there is nothing to change.
+  bool modify(bool creates, const std::function<bool(RegFileDocument&)>& change);
 
   std::filesystem::path m_file;
 };

@@ -332,12 +332,10 @@ bool RegFileDocument::keyHasContent(std::string_view key) const {
 }
 
 void RegFileDocument::setValue(std::string_view key, std::string_view name, const RegistryValue& value) {
-  Entry entry;
-  entry.kind = Kind::Value;
-  entry.raw = valueText(name, value);
-  entry.name = std::string(name);
-  entry.value = value;
-
+  if (std::none_of(m_entries.begin(), m_entries.end(),
+                   [](const Entry& e) { return e.kind == Kind::Header; })) {
+    m_entries.insert(m_entries.begin(), {Entry{Kind::Header, std::string(kHeader), {}, {}}, Entry{}});
+  }
   const auto keyBlocks = blocks(key, false);
   // Replacing the last mention keeps the value where the user last saw it; an
   // earlier duplicate stays shadowed as before.
@@ -345,17 +343,16 @@ void RegFileDocument::setValue(std::string_view key, std::string_view name, cons
     for (std::size_t i = block->end; i-- > block->begin + 1;) {
       Entry& old = m_entries[i];
       if ((old.kind == Kind::Value || old.kind == Kind::Removal) && sameName(old.name, name)) {
-        entry.name = old.name;  // the registry keeps the spelling a value was created with
-        old = std::move(entry);
+        // The registry keeps the spelling a value was created with.
+        old.kind = Kind::Value;
+        old.raw = valueText(old.name, value);
+        old.value = value;
         return;
       }
     }
   }
 
-  if (std::none_of(m_entries.begin(), m_entries.end(),
-                   [](const Entry& e) { return e.kind == Kind::Header; })) {
-    m_entries.insert(m_entries.begin(), {Entry{Kind::Header, std::string(kHeader), {}, {}}, Entry{}});
-  }
+  Entry entry{Kind::Value, valueText(name, value), std::string(name), value};
   if (keyBlocks.empty()) {
     if (m_entries.back().kind != Kind::Other || !trim(m_entries.back().raw).empty())
       m_entries.push_back(Entry{});
