@@ -27,6 +27,7 @@ struct BoolRow {
 struct IntRow {
   const char* name;
   std::uint32_t byDefault;
+  std::uint32_t minimum;  // the least value the setter stores
   std::uint32_t (Store::*get)() const;
   bool (Store::*set)(std::uint32_t) const;
 };
@@ -65,20 +66,20 @@ const BoolRow kBools[] = {
     {"isAutoReturn", false, &Store::GetIsAutoReturn, &Store::SetIsAutoReturn},
 };
 const IntRow kInts[] = {
-    {"setType", 0, &Store::GetSetType, &Store::SetSetType},
-    {"fxNumPts", 501, &Store::GetFxNumPts, &Store::SetFxNumPts},
-    {"plotType", 0, &Store::GetPlotType, &Store::SetPlotType},
-    {"frameType", 0, &Store::GetFrameType, &Store::SetFrameType},
-    {"waveVolume", 50, &Store::GetWaveVolume, &Store::SetWaveVolume},
-    {"tickVolume", 40, &Store::GetTickVolume, &Store::SetTickVolume},
-    {"numTicks", 10, &Store::GetNumTicks, &Store::SetNumTicks},
-    {"playTime", 4, &Store::GetPlayTime, &Store::SetPlayTime},
-    {"minFreq", 60, &Store::GetMinFreq, &Store::SetMinFreq},
-    {"maxFreq", 2000, &Store::GetMaxFreq, &Store::SetMaxFreq},
-    {"rate", 50, &Store::GetRate, &Store::SetRate},
-    {"pitch", 50, &Store::GetPitch, &Store::SetPitch},
-    {"vol", 50, &Store::GetVol, &Store::SetVol},
-    {"numDec", 5, &Store::GetNumDec, &Store::SetNumDec},
+    {"setType", 0, 0, &Store::GetSetType, &Store::SetSetType},
+    {"fxNumPts", 501, 2, &Store::GetFxNumPts, &Store::SetFxNumPts},
+    {"plotType", 0, 0, &Store::GetPlotType, &Store::SetPlotType},
+    {"frameType", 0, 0, &Store::GetFrameType, &Store::SetFrameType},
+    {"waveVolume", 50, 0, &Store::GetWaveVolume, &Store::SetWaveVolume},
+    {"tickVolume", 40, 0, &Store::GetTickVolume, &Store::SetTickVolume},
+    {"numTicks", 10, 0, &Store::GetNumTicks, &Store::SetNumTicks},
+    {"playTime", 4, 0, &Store::GetPlayTime, &Store::SetPlayTime},
+    {"minFreq", 60, 0, &Store::GetMinFreq, &Store::SetMinFreq},
+    {"maxFreq", 2000, 0, &Store::GetMaxFreq, &Store::SetMaxFreq},
+    {"rate", 50, 0, &Store::GetRate, &Store::SetRate},
+    {"pitch", 50, 0, &Store::GetPitch, &Store::SetPitch},
+    {"vol", 50, 0, &Store::GetVol, &Store::SetVol},
+    {"numDec", 5, 0, &Store::GetNumDec, &Store::SetNumDec},
 };
 const RealRow kReals[] = {
     {"fxX0", "-10", -10.0, &Store::GetFxX0, &Store::SetFxX0},
@@ -143,12 +144,15 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
     EXPECT_EQ(key.name, row.name);
     EXPECT_EQ(key.type, SettingType::Integer) << row.name;
     EXPECT_EQ(key.defaultText, std::to_string(row.byDefault)) << row.name;
+    EXPECT_EQ(key.minimum, row.minimum) << row.name;
     auto backend = std::make_shared<test::RecordingBackend>();
     const Store store(backend);
     EXPECT_EQ((store.*row.get)(), row.byDefault) << row.name;
     EXPECT_EQ(*backend->stored(row.name), RegistryValue::fromDword(row.byDefault)) << row.name;
     EXPECT_TRUE((store.*row.set)(1234567)) << row.name;
     EXPECT_EQ((store.*row.get)(), 1234567u) << row.name;
+    EXPECT_TRUE((store.*row.set)(0)) << row.name;
+    EXPECT_EQ((store.*row.get)(), row.minimum) << row.name;
     expectOnly(*backend, row.name, kRegDword);
     ++rows;
   }
