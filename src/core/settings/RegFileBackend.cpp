@@ -161,8 +161,7 @@ bool RegFileBackend::modify(bool creates, const std::function<bool(RegFileDocume
   }
 
   std::string before;
-  const ReadResult read = readFile(file, before);
-  if (read == ReadResult::Failed) return false;
+  if (readFile(file, before) == ReadResult::Failed) return false;
   RegFileDocument document = RegFileDocument::parse(before);
   if (!change(document)) return true;
   const std::string after = document.serialize();
