@@ -356,7 +356,9 @@ void RegFileDocument::setValue(std::string_view key, std::string_view name, cons
   if (keyBlocks.empty()) {
     if (m_entries.back().kind != Kind::Other || !trim(m_entries.back().raw).empty())
       m_entries.push_back(Entry{});
-    m_entries.push_back(Entry{Kind::Section, "[" + std::string(key) + "]", std::string(key), {}});
+    std::string header = "[";
+    header.append(key).append("]");
+    m_entries.push_back(Entry{Kind::Section, std::move(header), std::string(key), {}});
     m_entries.push_back(std::move(entry));
     return;
   }

@@ -119,6 +119,12 @@ TEST(RegFileBackend, ALinkedFileStaysLinkedAndKeepsItsMode) {
             fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read);
 }
 
+std::string valueName(int writer, int i) {
+  std::string name = "w";
+  name.append(std::to_string(writer)).append("_").append(std::to_string(i));
+  return name;
+}
+
 // Writes `count` values named after the writer; exits 0 when every write succeeded.
 [[noreturn]] void writeFromChild(const fs::path& file, int writer, int count, int startPipe) {
   char go = 0;
@@ -126,8 +132,7 @@ TEST(RegFileBackend, ALinkedFileStaysLinkedAndKeepsItsMode) {
   RegFileBackend backend(file);
   bool ok = started;
   for (int i = 0; i < count; ++i) {
-    ok = backend.writeValue("w" + std::to_string(writer) + "_" + std::to_string(i),
-                            RegistryValue::fromDword(static_cast<std::uint32_t>(i))) &&
+    ok = backend.writeValue(valueName(writer, i), RegistryValue::fromDword(static_cast<std::uint32_t>(i))) &&
          ok;
   }
   ::_exit(ok ? 0 : 1);
@@ -163,7 +168,7 @@ TEST(RegFileBackend, TwoProgramsWritingAtOnceBothKeepEveryValue) {
   EXPECT_EQ(values.size(), static_cast<std::size_t>(kWriters * kValues));
   for (int writer = 0; writer < kWriters; ++writer) {
     for (int i = 0; i < kValues; ++i) {
-      const std::string name = "w" + std::to_string(writer) + "_" + std::to_string(i);
+      const std::string name = valueName(writer, i);
       EXPECT_EQ(backend.readValue(name), RegistryValue::fromDword(static_cast<std::uint32_t>(i))) << name;
     }
   }
