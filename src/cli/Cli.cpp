@@ -18,6 +18,8 @@ struct CommandEntry {
 
 const std::vector<CommandEntry>& commandTable() {
   static const std::vector<CommandEntry> table = {
+      {"settings", "settings path\nsettings list\nsettings get KEY\nsettings set KEY VALUE\nsettings delete",
+       runSettingsCommand},
       {"text",
        "text expand TEXT\ntext round TEXT DIGITS\ntext key ID\ntext language [LOCALE]\ntext coords X Y",
        runTextCommand},

@@ -23,5 +23,7 @@ int runSampleCommand(const Arguments& args, std::ostream& out);
 
 // Turning points and x-axis crossings of a data set or a sampled expression.
 int runFeaturesCommand(const Arguments& args, std::ostream& out);
+// settings path | list | get KEY | set KEY VALUE | delete
+int runSettingsCommand(const Arguments& args, std::ostream& out);
 
 }  // namespace sonalyx::cli

@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "core/settings/SettingsStore.h"
 #include "core/speech/CalculatorKeyTable.h"
 #include "core/speech/CoordinatePhrase.h"
 #include "core/speech/LanguageTable.h"
@@ -14,9 +16,10 @@ namespace sonalyx::cli {
 
 namespace {
 
-// TODO: read numDec from the settings store once it is in the tree; 5 is its default.
+// Spoken with the user's precision, read at the moment of use like every setting.
 std::string coordinatePhraseFromSettings(double x, double y) {
-  return coordinatePhrase(x, y, 5);
+  const std::uint32_t numDec = SettingsStore::openDefault().GetNumDec();
+  return coordinatePhrase(x, y, static_cast<int>(std::min<std::uint32_t>(numDec, 1000)));
 }
 
 // A whole number of decimal digits only, no sign, no blanks.
