@@ -84,8 +84,12 @@ std::string formatNumber(double value, std::string_view conversion) {
   if (std::isnan(value)) return pad("Error", c, false);
   if (std::isinf(value)) return pad(value > 0 ? "Infinity" : "-Infinity", c, false);
 
-  std::string spec = "%" + c.flags;
-  if (c.precision >= 0) spec += "." + std::to_string(c.precision);
+  std::string spec = "%";
+  spec += c.flags;
+  if (c.precision >= 0) {
+    spec += '.';
+    spec += std::to_string(c.precision);
+  }
   spec += c.type;
   // One conversion into a stack buffer in the common case: sampling writes
   // hundreds of thousands of numbers into expressions.
