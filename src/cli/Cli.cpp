@@ -17,7 +17,9 @@ struct CommandEntry {
 };
 
 const std::vector<CommandEntry>& commandTable() {
-  static const std::vector<CommandEntry> table = {};
+  static const std::vector<CommandEntry> table = {
+      {"calc", "calc [--trace] KEY...", runCalcCommand},
+  };
   return table;
 }
 
