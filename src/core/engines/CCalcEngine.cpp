@@ -84,6 +84,8 @@ CCalcEngine::Number CCalcEngine::whole(std::int64_t bits) {
 }
 
 CCalcEngine::Number CCalcEngine::decimal(long double real) {
+  // What shows as 0 is 0: 1e-600 would otherwise make 1/x overflow on a display of 0.
+  if (static_cast<double>(real) == 0.0) real = 0.0L;
   return Number{real + 0.0L, 0, false};
 }
 
@@ -167,7 +169,8 @@ void CCalcEngine::showValue() {
 }
 
 void CCalcEngine::showEntry() {
-  displayText = m_negative ? "-" : "";
+  displayText.clear();
+  if (m_negative) displayText.push_back('-');
   displayText += m_mantissa.empty() ? "0" : m_mantissa;
   if (m_inExponent) {
     displayText += m_exponentNegative ? "e-" : "e+";
@@ -796,7 +799,7 @@ void CCalcEngine::bttnDecimal_Click() {
   restartAfterError();
   if (!m_typing) startEntry();
   if (m_inExponent || m_mantissa.find('.') != std::string::npos) return;
-  if (m_mantissa.empty()) m_mantissa = "0";
+  if (m_mantissa.empty()) m_mantissa.push_back('0');
   m_mantissa += '.';
   m_last = Last::Digit;
   showEntry();
@@ -816,7 +819,7 @@ void CCalcEngine::bttnEE_Click() {
   if (!m_typing) {
     // EE on its own means 1 times a power of ten, as on a pocket calculator.
     startEntry();
-    m_mantissa = "1";
+    m_mantissa.push_back('1');
   }
   if (m_inExponent) return;
   m_inExponent = true;

@@ -1,5 +1,6 @@
 #include "core/engines/CalcNumerics.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -28,11 +29,17 @@ constexpr Real kPi = std::numbers::pi_v<Real>;
 }  // namespace
 
 Real powerOfTen(int exponent) {
-  if (exponent >= 0 && exponent <= kLargestExactPower) {
-    Real p = 1.0L;
-    for (int i = 0; i < exponent; ++i) p *= 10.0L;
-    return p;
-  }
+  // Every number the display can show lies within this reach; a table spares the
+  // slow wide pow() on every key.
+  constexpr int kReach = 400;
+  static const std::array<Real, 2 * kReach + 1> kTable = [] {
+    std::array<Real, 2 * kReach + 1> table{};
+    for (int e = -kReach; e <= kReach; ++e) table[e + kReach] = std::pow(10.0L, static_cast<Real>(e));
+    Real exact = 1.0L;
+    for (int e = 0; e <= kLargestExactPower; ++e, exact *= 10.0L) table[e + kReach] = exact;
+    return table;
+  }();
+  if (exponent >= -kReach && exponent <= kReach) return kTable[exponent + kReach];
   return std::pow(10.0L, static_cast<Real>(exponent));
 }
 

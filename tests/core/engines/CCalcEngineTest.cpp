@@ -533,6 +533,7 @@ TEST(CCalcEngine, ErrorsShowATextUntilANewStart) {
       {"1 EE 3 0 0 x^2", "Overflow"},
       {"1 EE 3 0 0 * 1 EE 3 0 0 =", "Overflow"},
       {"1 EE 3 0 8 + 1 EE 3 0 8 =", "Overflow"},
+      {"1 EE 3 0 0 +/- x^2 1/x", "Cannot divide by zero"},  // 1e-600 shows, and is, 0
       // The next digit starts afresh; operators and functions are refused.
       {"5 / 0 = 3", "3"},
       {"5 / 0 = 3 + 4 =", "7"},
