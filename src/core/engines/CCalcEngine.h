@@ -10,13 +10,14 @@ namespace sonalyx {
 // into one call and shows `displayText` afterwards.
 //
 // Decimal shows up to 15 significant digits, worked in a wider type so that the
-// digits shown are right; hexadecimal,
-// octal and binary work on 64-bit two's-complement integers that wrap like a
-// register. Binary operators bind as x^y (and its root) above * / Mod, above + -,
-// above And, above Xor, above Or; "=" completes everything pending and, pressed
-// again, repeats the last operation on the value shown. Errors replace the display
-// with one of "Cannot divide by zero", "Result is undefined", "Invalid input",
-// "Overflow" (English; the page translates them) until a digit starts afresh.
+// digits shown are right; hexadecimal, octal and binary work on 64-bit
+// two's-complement integers that wrap like a register. Binary operators bind as
+// x^y (and its root) above * / Mod, above + -, above And, above Xor, above Or; "("
+// right after a number multiplies it; "=" completes everything pending and,
+// pressed again, repeats the last operation on the value shown. Errors replace the
+// display with one of "Cannot divide by zero", "Result is undefined", "Invalid
+// input", "Overflow" (English; the page translates them) until a digit, point, π,
+// EE, "(" or memory recall starts afresh.
 class CCalcEngine {
  public:
   CCalcEngine();
