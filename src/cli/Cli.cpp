@@ -27,6 +27,7 @@ const std::vector<CommandEntry>& commandTable() {
       {"eval", "eval EXPRESSION", runEvalCommand},
       {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar] [-o FILE]", runSampleCommand},
       {"features", "features FILE\nfeatures --expr EXPRESSION", runFeaturesCommand},
+      {"calc", "calc [--trace] KEY...", runCalcCommand},
   };
   return table;
 }

@@ -25,5 +25,7 @@ int runSampleCommand(const Arguments& args, std::ostream& out);
 int runFeaturesCommand(const Arguments& args, std::ostream& out);
 // settings path | list | get KEY | set KEY VALUE | delete
 int runSettingsCommand(const Arguments& args, std::ostream& out);
+// calc [--trace] KEY...: presses calculator keys in order and prints the display.
+int runCalcCommand(const Arguments& args, std::ostream& out);
 
 }  // namespace sonalyx::cli
