@@ -1,51 +1,13 @@
 #include "core/engines/CalcKeyPress.h"
 
+#include "core/speech/CalculatorKeyIds.h"
+
 namespace sonalyx {
 
 namespace {
 
-// Command ids of the calculator keys.
-constexpr int kFixedExponential = 1091;
-constexpr int kEnterExponent = 1092;
-constexpr int kBackspace = 1093;
-constexpr int kClearEntry = 1094;
-constexpr int kClear = 1095;
-constexpr int kHexDigitA = 1096;
-constexpr int kHexDigitF = 1101;
-constexpr int kAnd = 1102;
-constexpr int kOr = 1103;
-constexpr int kXor = 1104;
-constexpr int kNot = 1105;
-constexpr int kMod = 1106;
-constexpr int kLeftShift = 1107;
-constexpr int kSine = 1108;
-constexpr int kCosine = 1109;
-constexpr int kTangent = 1110;
-constexpr int kExp = 1111;
-constexpr int kNaturalLog = 1112;
-constexpr int kLog = 1113;
-constexpr int kSquare = 1114;
-constexpr int kCube = 1115;
-constexpr int kPower = 1116;
-constexpr int kSquareRoot = 1117;
-constexpr int kReciprocal = 1118;
-constexpr int kFactorial = 1119;
-constexpr int kDigit0 = 1120;
-constexpr int kDigit9 = 1129;
-constexpr int kDivide = 1130;
-constexpr int kTimes = 1131;
-constexpr int kMinus = 1132;
-constexpr int kPlus = 1133;
-constexpr int kEquals = 1134;
-constexpr int kPlusMinus = 1135;
-constexpr int kPoint = 1136;
-constexpr int kOpen = 1137;
-constexpr int kClose = 1138;
-constexpr int kPi = 1139;
-constexpr int kMemoryStore = 1140;
-constexpr int kMemoryAdd = 1141;
-constexpr int kMemoryClear = 1142;
-constexpr int kMemoryRecall = 1143;
+// Page commands that are not keys of the table: the two check boxes and the
+// keyboard shortcuts for right shift and memory recall.
 constexpr int kHyperbolic = 1146;
 constexpr int kInverse = 1147;
 constexpr int kRightShift = 1169;
@@ -54,31 +16,31 @@ constexpr int kMemoryRecallShortcut = 1172;
 // The engine's unary codes by key.
 int unaryCode(int commandId) {
   switch (commandId) {
-    case kSine:
+    case kKeySin:
       return 0;
-    case kCosine:
+    case kKeyCos:
       return 1;
-    case kSquare:
+    case kKeySquare:
       return 2;
-    case kTangent:
+    case kKeyTan:
       return 3;
-    case kExp:
+    case kKeyExp:
       return 4;
-    case kNaturalLog:
+    case kKeyLn:
       return 5;
-    case kLog:
+    case kKeyLog:
       return 6;
-    case kCube:
+    case kKeyCube:
       return 7;
-    case kSquareRoot:
+    case kKeySquareRoot:
       return 9;
-    case kReciprocal:
+    case kKeyReciprocal:
       return 10;
-    case kFactorial:
+    case kKeyFactorial:
       return 11;
-    case kLeftShift:
+    case kKeyLeftShift:
       return 12;
-    case kNot:
+    case kKeyNot:
       return 13;
     default:
       return -1;
@@ -87,27 +49,27 @@ int unaryCode(int commandId) {
 
 const char* binaryName(int commandId) {
   switch (commandId) {
-    case kAnd:
+    case kKeyAnd:
       return "And";
-    case kOr:
+    case kKeyOr:
       return "Or";
-    case kXor:
+    case kKeyXor:
       return "Xor";
-    case kMod:
+    case kKeyMod:
       return "Mod";
-    case kOpen:
+    case kKeyOpenParen:
       return "(";
-    case kClose:
+    case kKeyCloseParen:
       return ")";
-    case kDivide:
+    case kKeyDivide:
       return "/";
-    case kTimes:
+    case kKeyTimes:
       return "*";
-    case kMinus:
+    case kKeyMinus:
       return "-";
-    case kPlus:
+    case kKeyPlus:
       return "+";
-    case kEquals:
+    case kKeyEquals:
       return "=";
     default:
       return nullptr;
@@ -117,10 +79,10 @@ const char* binaryName(int commandId) {
 }  // namespace
 
 bool isCalcKeyEnabled(int commandId, int numberBase) {
-  if (commandId >= kHexDigitA && commandId <= kHexDigitF) return numberBase == 16;
-  if (commandId == kPoint || commandId == kFixedExponential || commandId == kEnterExponent)
+  if (commandId >= kKeyHexA && commandId <= kKeyHexF) return numberBase == 16;
+  if (commandId == kKeyPoint || commandId == kKeyFixedExponent || commandId == kKeyEnterExponent)
     return numberBase == 10;
-  if (commandId >= kDigit0 && commandId <= kDigit9) return commandId - kDigit0 < numberBase;
+  if (commandId >= kKeyDigit0 && commandId <= kKeyDigit9) return commandId - kKeyDigit0 < numberBase;
   return true;
 }
 
@@ -136,33 +98,33 @@ CalcKeyPress pressCalcKey(CCalcEngine& engine, int commandId) {
     engine.bttnBinOp_Click(name);
     return press;
   }
-  if (commandId >= kDigit0 && commandId <= kDigit9) {
+  if (commandId >= kKeyDigit0 && commandId <= kKeyDigit9) {
     if (!isCalcKeyEnabled(commandId, engine.numberBase())) return CalcKeyPress{};
-    engine.bttnDigit_Click(commandId - kDigit0);
+    engine.bttnDigit_Click(commandId - kKeyDigit0);
     return press;
   }
-  if (commandId >= kHexDigitA && commandId <= kHexDigitF) {
+  if (commandId >= kKeyHexA && commandId <= kKeyHexF) {
     // Outside hexadecimal only the display is refreshed.
-    if (engine.numberBase() == 16) engine.bttnDigit_Click(10 + commandId - kHexDigitA);
+    if (engine.numberBase() == 16) engine.bttnDigit_Click(10 + commandId - kKeyHexA);
     return press;
   }
   switch (commandId) {
-    case kFixedExponential:
+    case kKeyFixedExponent:
       engine.bttnF2E_Click();
       break;
-    case kEnterExponent:
+    case kKeyEnterExponent:
       engine.bttnEE_Click();
       break;
-    case kBackspace:
+    case kKeyBackspace:
       engine.bttnBack_Click();
       break;
-    case kClearEntry:
+    case kKeyClearEntry:
       engine.bttnCE_Click();
       break;
-    case kClear:
+    case kKeyClear:
       engine.bttnC_Click();
       break;
-    case kPower:
+    case kKeyPower:
       engine.bttnBinOp_Click("X^Y");
       press.unary = true;
       break;
@@ -173,25 +135,25 @@ CalcKeyPress pressCalcKey(CCalcEngine& engine, int commandId) {
       engine.inverse = false;
       press.unary = true;
       break;
-    case kPlusMinus:
+    case kKeyChangeSign:
       engine.bttnPlusMinus_Click();
       break;
-    case kPoint:
+    case kKeyPoint:
       engine.bttnDecimal_Click();
       break;
-    case kPi:
+    case kKeyPi:
       engine.bttnPi_Click();
       break;
-    case kMemoryStore:
+    case kKeyMemoryStore:
       engine.bttnMemory_Click(2);
       break;
-    case kMemoryAdd:
+    case kKeyMemoryPlus:
       engine.bttnMemory_Click(1);
       break;
-    case kMemoryClear:
+    case kKeyMemoryClear:
       engine.bttnMemory_Click(0);
       break;
-    case kMemoryRecall:
+    case kKeyMemoryRecall:
     case kMemoryRecallShortcut:
       engine.bttnMemory_Click(3);
       press.speakDisplay = true;
