@@ -1,8 +1,11 @@
 #include "core/math/RegressionFit.h"
 
 #include <cmath>
+#include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 #include "core/math/FitModel.h"
 #include "core/math/FitText.h"
@@ -216,7 +219,8 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       LogisticModel fit;
       run.loadData(fit);
       fit.estimateStart();
-      run.nonlinear(model, fit, fit.solve(), "Invalid data set for logistic fit.");
+      const bool solved = fit.solve();
+      run.nonlinear(model, fit, solved, "Invalid data set for logistic fit.");
       break;
     }
     case kSinusoidal: {
