@@ -1,0 +1,61 @@
+#include "core/math/FitModel.h"
+
+#include <array>
+#include <cctype>
+
+namespace sonalyx {
+
+namespace {
+
+struct ModelEntry {
+  std::string_view name;
+  std::string_view title;
+};
+
+// "Logrithmic" is the program's own spelling: the text is also a translation key.
+constexpr std::array<ModelEntry, kFitModelCount> kModels = {{
+    {"stats", "Basic Statistical Information"},
+    {"linear", "Linear: y = a + bx"},
+    {"quadratic", "Quadratic: y = ax^2 + bx + c"},
+    {"cubic", "Cubic: y = ax^3 + bx^2 + cx + d"},
+    {"quartic", "Quartic: y = ax^4 + bx^3 + cx^2 + dx + e"},
+    {"exponential", "Exponential: y = a b^x"},
+    {"logarithmic", "Logrithmic: y = a + b*ln(x)"},
+    {"power", "Power: y = a x^b"},
+    {"hyperbolic", "Hyperbolic: y = a + b/x"},
+    {"rational", "Rational: y = a / (b + x)"},
+    {"rational-x", "Rational: y = ax / (b + x)"},
+    {"logistic", "Logistic: y = c / (1 + a*exp(-b*x))"},
+    {"sinusoidal", "Sinusoidal: y = a sin(bx+c) + d"},
+}};
+
+bool sameIgnoringCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string_view fitModelName(int model) {
+  if (model < 0 || model >= kFitModelCount) return {};
+  return kModels[static_cast<std::size_t>(model)].name;
+}
+
+std::optional<int> fitModelFromName(std::string_view name) {
+  for (int model = 0; model < kFitModelCount; ++model) {
+    if (sameIgnoringCase(name, kModels[static_cast<std::size_t>(model)].name)) return model;
+  }
+  return std::nullopt;
+}
+
+std::string_view fitModelTitle(int model) {
+  if (model < 0 || model >= kFitModelCount) return {};
+  return kModels[static_cast<std::size_t>(model)].title;
+}
+
+}  // namespace sonalyx

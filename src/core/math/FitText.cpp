@@ -1,0 +1,32 @@
+#include "core/math/FitText.h"
+
+#include <cmath>
+#include <utility>
+
+#include "core/utility/NumberFormat.h"
+
+namespace sonalyx {
+
+FitText::FitText(Translate translate) : m_translate(std::move(translate)) {}
+
+std::string FitText::translate(const std::string& english) const {
+  return m_translate ? m_translate(english) : english;
+}
+
+std::string FitText::countLine(std::size_t count) const {
+  return translate("Number of points:") + ' ' + std::to_string(count);
+}
+
+std::string FitText::valueLine(const std::string& label, double value) const {
+  return translate(label) + ' ' + formatNumber(zeroed(value), "%.10g");
+}
+
+std::string FitText::coefficientLine(char letter, double value) {
+  return std::string(1, letter) + ": " + formatNumber(zeroed(value), "%.10g");
+}
+
+double FitText::zeroed(double value) {
+  return std::fabs(value) < kZeroBelow ? 0.0 : value;
+}
+
+}  // namespace sonalyx
