@@ -27,6 +27,8 @@ const std::vector<CommandEntry>& commandTable() {
       {"eval", "eval EXPRESSION", runEvalCommand},
       {"sample", "sample EXPRESSION [--from A] [--to B] [--points N] [--polar] [-o FILE]", runSampleCommand},
       {"features", "features FILE\nfeatures --expr EXPRESSION", runFeaturesCommand},
+      {"stats", "stats FILE", runStatsCommand},
+      {"fit", "fit MODEL FILE [--period B] [--expression]", runFitCommand},
       {"calc", "calc [--trace] KEY...", runCalcCommand},
   };
   return table;

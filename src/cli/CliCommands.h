@@ -28,4 +28,8 @@ int runSettingsCommand(const Arguments& args, std::ostream& out);
 // calc [--trace] KEY...: presses calculator keys in order and prints the display.
 int runCalcCommand(const Arguments& args, std::ostream& out);
 
+// The Data page's statistics and regression fits of a data-set file.
+int runStatsCommand(const Arguments& args, std::ostream& out);
+int runFitCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli
