@@ -137,8 +137,7 @@ bool CChildFrame::HasHandler(int id) {
   }
 }
 
-bool CChildFrame::IsCommandEnabled(int id) const {
-  if (!HasHandler(id)) return false;
+bool CChildFrame::RuleAllows(int id) const {
   const auto& sets = m_app.dataSets();
   switch (id) {
     case cmd::kFileSave:

@@ -26,10 +26,12 @@ class CChildFrame : public QMdiSubWindow {
   const QFont& panelFont() const { return m_panelFont; }
   const QFont& smallFont() const { return m_smallFont; }
 
-  // Whether the frame handles a command at all, and whether its rule enables it
-  // now. A command nobody handles yet shows disabled.
+  // Whether the frame handles a command at all; one nobody handles yet shows
+  // disabled, as a command without a handler does.
   static bool HasHandler(int id);
-  bool IsCommandEnabled(int id) const;
+  // The command's own rule (the data sets, the size level, the clipboard).
+  bool RuleAllows(int id) const;
+  bool IsCommandEnabled(int id) const { return HasHandler(id) && RuleAllows(id); }
   // Brings every action's enabled and checked state up to date.
   void UpdateCommandUI();
   // Runs a command unless it is disabled.

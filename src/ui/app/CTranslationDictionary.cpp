@@ -28,9 +28,12 @@ bool CTranslationDictionary::Init(Language language) {
   m_language = language;
   m_translator.reset();
   const std::string path = catalogueFor(language);
-  if (path.empty()) return true;
+  return path.empty() || Load(path);
+}
+
+bool CTranslationDictionary::Load(const std::string& catalogue) {
   auto translator = std::make_unique<QTranslator>();
-  if (!translator->load(QString::fromStdString(path))) return false;
+  if (!translator->load(QString::fromStdString(catalogue))) return false;
   m_translator = std::move(translator);
   return true;
 }

@@ -28,6 +28,8 @@ class CTranslationDictionary {
   // Loads the catalogue of `language`; false when it cannot be loaded, and then
   // every lookup gives its key back.
   bool Init(Language language);
+  // Loads a compiled catalogue by its path (a file or a ":/" resource).
+  bool Load(const std::string& catalogue);
   Language language() const { return m_language; }
 
   void Lookup(const std::string& key, std::string& result) const;

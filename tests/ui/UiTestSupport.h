@@ -1,0 +1,126 @@
+#pragma once
+
+#include <stdlib.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QWidget>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/settings/SettingsStore.h"
+#include "ui/app/CChildFrame.h"
+#include "ui/app/CGraphCalcApp.h"
+#include "ui/app/CMainFrame.h"
+#include "ui/app/CommandTable.h"
+#include "ui/app/VersionPublisher.h"
+
+// Readable QStrings in failure messages.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '"' << text.toStdString() << '"';
+}
+
+namespace sonalyx::test {
+
+inline std::string readFile(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+// Sets an environment variable for the life of the object, then puts back what was there.
+class ScopedEnv {
+ public:
+  ScopedEnv(const char* name, const std::string& value) : m_name(name) {
+    if (const char* old = ::getenv(name)) m_old = old;
+    ::setenv(name, value.c_str(), 1);
+  }
+  ~ScopedEnv() {
+    if (m_old)
+      ::setenv(m_name, m_old->c_str(), 1);
+    else
+      ::unsetenv(m_name);
+  }
+  ScopedEnv(const ScopedEnv&) = delete;
+  ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+ private:
+  const char* m_name;
+  std::optional<std::string> m_old;
+};
+
+// A settings file of its own in a fresh folder, removed afterwards.
+class TempSettings {
+ public:
+  TempSettings() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "sonalyx-ui-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) != nullptr) m_folder = pattern;
+    m_env = std::make_unique<ScopedEnv>("SONALYX_SETTINGS", file().string());
+  }
+  ~TempSettings() {
+    m_env.reset();
+    std::error_code ignored;
+    std::filesystem::remove_all(m_folder, ignored);
+  }
+  TempSettings(const TempSettings&) = delete;
+  TempSettings& operator=(const TempSettings&) = delete;
+
+  std::filesystem::path file() const { return m_folder / "Settings.reg"; }
+  const std::filesystem::path& folder() const { return m_folder; }
+  SettingsStore store() const { return SettingsStore::openDefault(); }
+
+ private:
+  std::filesystem::path m_folder;
+  std::unique_ptr<ScopedEnv> m_env;
+};
+
+// The real program, started as at the command line, in a temporary settings file
+// that `prepare` may fill first.
+class ProgramUnderTest {
+ public:
+  explicit ProgramUnderTest(const std::function<void(const SettingsStore&)>& prepare = {},
+                            ui::ProgramOptions options = {}) {
+    if (prepare) prepare(m_settings.store());
+    m_app = std::make_unique<ui::CGraphCalcApp>(std::move(options));
+    m_started = m_app->InitInstance();
+    if (m_started) {
+      QApplication::setActiveWindow(mainFrame());
+      m_exposed = QTest::qWaitForWindowExposed(mainFrame());
+      QTest::qWait(20);
+    }
+  }
+  ~ProgramUnderTest() {
+    if (m_app) m_app->ExitInstance();
+  }
+
+  bool started() const { return m_started && m_exposed; }
+  ui::CGraphCalcApp& app() const { return *m_app; }
+  ui::CMainFrame* mainFrame() const { return m_app->mainFrame(); }
+  ui::CChildFrame* child() const { return mainFrame()->child(); }
+  ui::CCommandTable& commands() const { return *m_app->commands(); }
+  const SettingsStore& settings() const { return m_app->settings(); }
+  const TempSettings& settingsFile() const { return m_settings; }
+
+  // A key as the user types it: to the widget that has the focus.
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    QWidget* target = QApplication::focusWidget();
+    if (!target) target = mainFrame();
+    QTest::keyClick(target, key, modifiers);
+    QApplication::processEvents();
+  }
+
+ private:
+  TempSettings m_settings;
+  std::unique_ptr<ui::CGraphCalcApp> m_app;
+  bool m_started = false;
+  bool m_exposed = false;
+};
+
+}  // namespace sonalyx::test
