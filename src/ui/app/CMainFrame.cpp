@@ -114,7 +114,9 @@ QString CMainFrame::menuSelectText(const QWidget* container, const QAction* acti
 }
 
 void CMainFrame::onMenuSelect(const QWidget* container, QAction* action) {
-  if (!action || action->isSeparator()) return;
+  // A popup's hover is reported again by every menu above it; only the menu that
+  // holds the item speaks.
+  if (!action || action->isSeparator() || !container->actions().contains(action)) return;
   voice::Speak(menuSelectText(container, action));
 }
 
