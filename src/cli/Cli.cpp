@@ -30,6 +30,8 @@ const std::vector<CommandEntry>& commandTable() {
       {"stats", "stats FILE", runStatsCommand},
       {"fit", "fit MODEL FILE [--period B] [--expression]", runFitCommand},
       {"calc", "calc [--trace] KEY...", runCalcCommand},
+      {"evaluate", "evaluate LINE|--up|--down...", runEvaluateCommand},
+      {"matrix", "matrix LINE|--up|--down...", runMatrixCommand},
   };
   return table;
 }

@@ -32,4 +32,10 @@ int runCalcCommand(const Arguments& args, std::ostream& out);
 int runStatsCommand(const Arguments& args, std::ostream& out);
 int runFitCommand(const Arguments& args, std::ostream& out);
 
+// evaluate LINE... | matrix LINE...: each line as typed into the Evaluator or the
+// Matrix page and Enter pressed, in order, in one session; "--up" and "--down"
+// press the arrow keys. Prints what the page shows after each.
+int runEvaluateCommand(const Arguments& args, std::ostream& out);
+int runMatrixCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli
