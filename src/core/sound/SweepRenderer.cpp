@@ -170,12 +170,15 @@ std::size_t SweepRenderer::render(float* interleaved, std::size_t frames) {
       const float envelope = m_envelope.next(open ? 1.0f : 0.0f);
       const float buzz = m_buzz.next(m_below ? 1.0f : 0.0f);
       const float sample = m_oscillator.next(m_hz, buzz) * envelope * m_dataGain * fade;
-      if (sample != 0.0f) {
+      if (sample != 0.0f && m_stereo) {
         double x = 0.0;
         const double pan = between(a.x, b ? &b->x : nullptr, fraction, x) ? m_pan.position(x) : 0.5;
-        const StereoGain g = PanScale::gains(pan, m_stereo);
+        const StereoGain g = PanScale::gains(pan, true);
         out[0] += sample * g.left;
         out[1] += sample * g.right;
+      } else {
+        out[0] += sample;
+        out[1] += sample;
       }
     }
 

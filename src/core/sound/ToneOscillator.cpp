@@ -42,9 +42,10 @@ float ToneOscillator::next(double hz, float buzz) {
   float previous = 0.0f;
   float current = s1;
   float sum = 0.0f;
+  const bool allBelowLimit = hz * kHarmonics <= kHarmonicFull;
   for (int h = 0; h < kHarmonics; ++h) {
     float amplitude = kPlain[h] + buzz * (kBuzz[h] - kPlain[h]);
-    if (h > 0) amplitude *= harmonicWeight(hz * (h + 1));
+    if (h > 0 && !allBelowLimit) amplitude *= harmonicWeight(hz * (h + 1));
     sum += amplitude * current;
     const float following = twoCos * current - previous;
     previous = current;

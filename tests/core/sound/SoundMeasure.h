@@ -86,6 +86,14 @@ inline double powerAt(const std::vector<float>& s, std::size_t from, std::size_t
   return s1 * s1 + s2 * s2 - coefficient * s1 * s2;
 }
 
+inline float largestStep(const std::vector<float>& s, std::size_t from, std::size_t to) {
+  float step = 0.0f;
+  for (std::size_t i = std::max<std::size_t>(from, 1); i < to && i < s.size(); ++i) {
+    step = std::max(step, std::fabs(s[i] - s[i - 1]));
+  }
+  return step;
+}
+
 // The largest step between neighbouring samples, counting silence before the first
 // and after the last: what a listener hears as a click.
 inline float largestEdgeStep(const std::vector<float>& s, std::size_t edgeFrames) {
