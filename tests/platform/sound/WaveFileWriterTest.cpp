@@ -80,6 +80,15 @@ TEST(WaveFileWriter, FailureLeavesTheFolderAsItWas) {
     std::getline(kept, text);
     EXPECT_EQ(text, "keep me") << c.name;
   }
+
+  // An export abandoned half-way (an exception between writes) leaves nothing either.
+  test::TemporaryFolder folder;
+  ASSERT_TRUE(folder.exists());
+  {
+    WaveFileWriter writer(folder.file("graph.wav"), 2);
+    writer.write(testSignal(500, 2));
+  }
+  EXPECT_TRUE(folder.names().empty());
 }
 
 }  // namespace
