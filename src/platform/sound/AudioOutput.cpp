@@ -126,6 +126,17 @@ struct AudioOutput::Impl {
     }
   }
 
+  void advance(double ms) {
+    std::size_t frames = framesForMilliseconds(ms);
+    std::vector<float> buffer(kBufferFrames * kChannels);
+    while (frames > 0) {
+      const std::size_t chunk = std::min(frames, kBufferFrames);
+      mixBuffer(buffer.data(), chunk);
+      frames -= chunk;
+    }
+    mixer.releaseFinished();
+  }
+
   void startClock() {
     if (pacing == Pacing::RealTime) thread = std::thread([this] { runClock(); });
   }
@@ -196,7 +207,7 @@ bool AudioOutput::waitUntilIdle(double timeoutMs) const {
     if (m_impl->pacing == Pacing::Manual) {
       // Nothing else moves a hand-paced clock: play the waiting sound out now.
       if (nowMs() >= manualEnd) return false;
-      const_cast<AudioOutput*>(this)->advance(static_cast<double>(kBufferFrames) * 1000.0 / kSampleRate);
+      m_impl->advance(static_cast<double>(kBufferFrames) * 1000.0 / kSampleRate);
       continue;
     }
     if (std::chrono::steady_clock::now() >= deadline) return false;
@@ -222,14 +233,7 @@ std::size_t AudioOutput::bufferFrames() const {
 
 void AudioOutput::advance(double ms) {
   if (m_impl->pacing != Pacing::Manual) throw std::logic_error("only a hand-paced output can be advanced");
-  std::size_t frames = framesForMilliseconds(ms);
-  std::vector<float> buffer(kBufferFrames * kChannels);
-  while (frames > 0) {
-    const std::size_t chunk = std::min(frames, kBufferFrames);
-    m_impl->mixBuffer(buffer.data(), chunk);
-    frames -= chunk;
-  }
-  m_impl->mixer.releaseFinished();
+  m_impl->advance(ms);
 }
 
 std::vector<AudioOutput::Event> AudioOutput::events() const {
