@@ -6,10 +6,12 @@ namespace sonalyx {
 
 namespace {
 
-constexpr double kQuietestDb = -40.0;  // volume 1
+// The default 50 must sit comfortably beside speech (about -15 dBFS at its peaks),
+// while 1 is still a whisper.
+constexpr double kQuietestDb = -24.0;  // volume 1
 constexpr double kLoudestDb = -1.0;    // volume 100
 // The ticks are short, so they get the smaller share of the headroom.
-constexpr double kDataShare = 0.6;
+constexpr double kDataShare = 0.75;
 constexpr double kTickShare = 1.0 - kDataShare;
 
 }  // namespace

@@ -243,7 +243,7 @@ TEST(SweepRenderer, StereoPansAlongXAndMonoIsCentred) {
   }
 }
 
-// Equal decibel steps from -40 dB at volume 1 to -1 dB at 100, for the curve and the
+// Equal decibel steps from -24 dB at volume 1 to -1 dB at 100, for the curve and the
 // ticks alike; 0 is silence and anything above 100 plays as 100.
 TEST(SweepRenderer, VolumesFollowADecibelScale) {
   // The curve's level alone, and the ticks' peak alone.
@@ -261,7 +261,7 @@ TEST(SweepRenderer, VolumesFollowADecibelScale) {
   const double tickFull = level(0, 100);
   EXPECT_TRUE(agreesTo(level(0, 0), 0.0, 3, 1e-12));
   for (const unsigned volume : {1u, 30u, 99u, 101u, 4000000000u}) {
-    const double expectedDb = -39.0 * (100.0 - std::min(volume, 100u)) / 99.0;
+    const double expectedDb = -23.0 * (100.0 - std::min(volume, 100u)) / 99.0;
     EXPECT_TRUE(agreesTo(20 * std::log10(level(volume, 0) / curveFull), expectedDb, 2, 0.05)) << volume;
     EXPECT_TRUE(agreesTo(20 * std::log10(level(0, volume) / tickFull), expectedDb, 2, 0.05)) << volume;
   }
