@@ -30,6 +30,8 @@ const std::vector<CommandEntry>& commandTable() {
       {"stats", "stats FILE", runStatsCommand},
       {"fit", "fit MODEL FILE [--period B] [--expression]", runFitCommand},
       {"calc", "calc [--trace] KEY...", runCalcCommand},
+      {"speak", "speak [-o OUT.wav] [--voice V] [--rate R] TEXT", runSpeakCommand},
+      {"earcon", "earcon ID", runEarconCommand},
   };
   return table;
 }

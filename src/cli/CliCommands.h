@@ -32,4 +32,10 @@ int runCalcCommand(const Arguments& args, std::ostream& out);
 int runStatsCommand(const Arguments& args, std::ostream& out);
 int runFitCommand(const Arguments& args, std::ostream& out);
 
+// speak [-o OUT.wav] [--voice V] [--rate R] TEXT: says TEXT (even with self-voicing
+// off) and returns when it has been said, or writes it to a wave file.
+int runSpeakCommand(const Arguments& args, std::ostream& out);
+// earcon ID: plays sound effect ID (even with the effects off) and returns when done.
+int runEarconCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli

@@ -15,9 +15,8 @@ std::string asciiLower(std::string text) {
 
 }  // namespace
 
-std::size_t chooseVoice(const std::vector<std::string>& voices, const std::string& name,
-                        std::size_t defaultIndex) {
-  if (name.empty()) return defaultIndex;
+std::optional<std::size_t> findVoice(const std::vector<std::string>& voices, const std::string& name) {
+  if (name.empty()) return std::nullopt;
   const auto indexWhere = [&](auto matches) -> std::size_t {
     const auto found = std::find_if(voices.begin(), voices.end(), matches);
     return found == voices.end() ? voices.size() : static_cast<std::size_t>(found - voices.begin());
@@ -29,7 +28,13 @@ std::size_t chooseVoice(const std::vector<std::string>& voices, const std::strin
   const std::string lowerName = asciiLower(name);
   index = indexWhere(
       [&](const std::string& voice) { return asciiLower(voice).find(lowerName) != std::string::npos; });
-  return index < voices.size() ? index : defaultIndex;
+  if (index < voices.size()) return index;
+  return std::nullopt;
+}
+
+std::size_t chooseVoice(const std::vector<std::string>& voices, const std::string& name,
+                        std::size_t defaultIndex) {
+  return findVoice(voices, name).value_or(defaultIndex);
 }
 
 }  // namespace sonalyx

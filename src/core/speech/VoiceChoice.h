@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,10 @@ namespace sonalyx {
 // ignoring ASCII case, so "english" finds "English (America)"), else the engine's
 // default. An empty name selects the default. `defaultIndex` is returned as it is
 // when nothing matches, even for an empty list.
+// The voice a name matches by the same rules, without the default: nothing for an
+// empty name or one that matches no voice.
+std::optional<std::size_t> findVoice(const std::vector<std::string>& voices, const std::string& name);
+
 std::size_t chooseVoice(const std::vector<std::string>& voices, const std::string& name,
                         std::size_t defaultIndex);
 
