@@ -32,6 +32,8 @@ const std::vector<CommandEntry>& commandTable() {
       {"calc", "calc [--trace] KEY...", runCalcCommand},
       {"speak", "speak [-o OUT.wav] [--voice V] [--rate R] TEXT", runSpeakCommand},
       {"earcon", "earcon ID", runEarconCommand},
+      {"evaluate", "evaluate LINE|--up|--down...", runEvaluateCommand},
+      {"matrix", "matrix LINE|--up|--down...", runMatrixCommand},
   };
   return table;
 }

@@ -37,5 +37,10 @@ int runFitCommand(const Arguments& args, std::ostream& out);
 int runSpeakCommand(const Arguments& args, std::ostream& out);
 // earcon ID: plays sound effect ID (even with the effects off) and returns when done.
 int runEarconCommand(const Arguments& args, std::ostream& out);
+// evaluate LINE... | matrix LINE...: each line as typed into the Evaluator or the
+// Matrix page and Enter pressed, in order, in one session; "--up" and "--down"
+// press the arrow keys. Prints what the page shows after each.
+int runEvaluateCommand(const Arguments& args, std::ostream& out);
+int runMatrixCommand(const Arguments& args, std::ostream& out);
 
 }  // namespace sonalyx::cli

@@ -100,24 +100,26 @@ bool DataSet::makeGrid(double x0, double x1, std::size_t n) {
   return true;
 }
 
-std::pair<double, double> DataSet::rangeX(bool useCartesian) const {
+namespace {
+
+std::pair<double, double> extent(const std::vector<DataPoint>& points, double DataPoint::*field) {
   std::pair<double, double> r{kAbsent, -kAbsent};
-  for (const auto& p : m_points) {
-    const double v = useCartesian ? p.cartX : p.x;
+  for (const auto& p : points) {
+    const double v = p.*field;
     if (v < r.first) r.first = v;
     if (v > r.second) r.second = v;
   }
   return r;
 }
 
+}  // namespace
+
+std::pair<double, double> DataSet::rangeX(bool useCartesian) const {
+  return extent(m_points, useCartesian ? &DataPoint::cartX : &DataPoint::x);
+}
+
 std::pair<double, double> DataSet::rangeY(bool useCartesian) const {
-  std::pair<double, double> r{kAbsent, -kAbsent};
-  for (const auto& p : m_points) {
-    const double v = useCartesian ? p.cartY : p.y;
-    if (v < r.first) r.first = v;
-    if (v > r.second) r.second = v;
-  }
-  return r;
+  return extent(m_points, useCartesian ? &DataPoint::cartY : &DataPoint::y);
 }
 
 std::size_t DataSet::toCartesian() {
