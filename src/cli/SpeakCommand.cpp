@@ -9,13 +9,15 @@
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
 #include "core/settings/SettingsStore.h"
+#include "core/sound/AudioFormat.h"
+#include "core/sound/StreamResampler.h"
 #include "core/speech/VoiceChoice.h"
 #include "platform/sound/AudioOutput.h"
 #include "platform/sound/OutputSequencer.h"
 #include "platform/sound/SoundEffects.h"
+#include "platform/sound/WaveFileWriter.h"
 #include "platform/speech/CDirectSS.h"
 #include "platform/speech/SpeechEngineRegistry.h"
-#include "platform/speech/SpeechWaveFile.h"
 
 namespace sonalyx::cli {
 
@@ -65,7 +67,8 @@ SpeakRequest parseSpeak(const Arguments& args) {
         request.haveVoice = true;
       } else {
         request.rate = wholeNumber(word, value);
-        if (request.rate < 0 || request.rate > 100) throw CliError::usage("--rate is a percent from 0 to 100");
+        if (request.rate < 0 || request.rate > 100)
+          throw CliError::usage("--rate is a percent from 0 to 100");
         request.haveRate = true;
       }
     } else if (word.size() > 2 && word.compare(0, 2, "--") == 0 && word[2] >= 'a' && word[2] <= 'z') {
@@ -113,10 +116,15 @@ int runSpeakCommand(const Arguments& args, std::ostream&) {
     applyChoices(request, voice);
     const std::optional<RenderedSpeech> speech = voice.engine()->render(request.text);
     if (!speech) throw CliError::user("the speech engine '" + engineName + "' cannot write sound files");
+    // At the program's own rate, like every other sound it writes.
+    std::vector<float> samples;
+    StreamResampler resampler(speech->sampleRate, kSampleRate);
+    resampler.push(speech->samples.data(), speech->samples.size(), samples);
+    resampler.finish(samples);
     try {
-      writeSpeechWave(request.saveAs, *speech);
+      writeWaveFile(request.saveAs, samples, 1);
     } catch (const std::runtime_error& e) {
-      throw CliError::user("cannot write '" + request.saveAs + "': " + e.what());
+      throw CliError::user(e.what());
     }
     return 0;
   }
@@ -124,12 +132,14 @@ int runSpeakCommand(const Arguments& args, std::ostream&) {
   AudioOutput& output = AudioOutput::instance();
   OutputSequencer sequencer(output);
   CDirectSS voice(settings);
-  if (!voice.Create(sequencer)) throw CliError::user("the speech engine '" + engineName + "' could not start");
+  if (!voice.Create(sequencer))
+    throw CliError::user("the speech engine '" + engineName + "' could not start");
   applyChoices(request, voice);
   // Asked for in so many words, so it is said even with self-voicing switched off.
   voice.setEnabled(true);
   voice.Speak(request.text);
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::duration<double, std::milli>(kSpeechTimeoutMs);
+  const auto deadline =
+      std::chrono::steady_clock::now() + std::chrono::duration<double, std::milli>(kSpeechTimeoutMs);
   while (voice.engine()->isSpeaking() && std::chrono::steady_clock::now() < deadline) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }

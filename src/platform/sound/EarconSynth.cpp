@@ -53,7 +53,9 @@ std::string EarconSynth::defaultSoundFont() {
   return chosen != nullptr && *chosen != '\0' ? chosen : kGeneralMidiSoundFont;
 }
 
-bool EarconSynth::ready() const { return m_impl->loaded; }
+bool EarconSynth::ready() const {
+  return m_impl->loaded;
+}
 
 std::vector<float> EarconSynth::render(const EffectVoice& voice, double ms) {
   const std::size_t frames = framesForMilliseconds(ms);
@@ -72,8 +74,9 @@ std::vector<float> EarconSynth::render(const EffectVoice& voice, double ms) {
   const std::size_t fadeFrames = std::min(frames, framesForMilliseconds(kCutFadeMs));
   for (std::size_t i = 0; i < frames; ++i) {
     const std::size_t framesToEnd = frames - i;
-    const float gain =
-        framesToEnd <= fadeFrames ? static_cast<float>(framesToEnd - 1) / static_cast<float>(fadeFrames) : 1.0F;
+    const float gain = framesToEnd <= fadeFrames
+                           ? static_cast<float>(framesToEnd - 1) / static_cast<float>(fadeFrames)
+                           : 1.0F;
     sound[i * kChannels] = left[i] * gain;
     sound[i * kChannels + 1] = right[i] * gain;
   }

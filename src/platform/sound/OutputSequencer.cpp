@@ -20,9 +20,13 @@ OutputSequencer& OutputSequencer::instance() {
   return sequencer;
 }
 
-void OutputSequencer::leadSpeech(double ms) { m_speechFromMs = m_clock() + std::max(0.0, ms); }
+void OutputSequencer::leadSpeech(double ms) {
+  m_speechFromMs = m_clock() + std::max(0.0, ms);
+}
 
-double OutputSequencer::speechDelayMs() const { return std::max(0.0, m_speechFromMs - m_clock()); }
+double OutputSequencer::speechDelayMs() const {
+  return std::max(0.0, m_speechFromMs - m_clock());
+}
 
 void OutputSequencer::stopAll() {
   m_speechFromMs = kNoLead;

@@ -7,7 +7,8 @@
 
 namespace sonalyx {
 
-SoundEffects::SoundEffects(const SettingsStore& settings, OutputSequencer& sequencer, const std::string& soundFont)
+SoundEffects::SoundEffects(const SettingsStore& settings, OutputSequencer& sequencer,
+                           const std::string& soundFont)
     : m_sequencer(sequencer), m_on(settings.GetSfxOn()) {
   EarconSynth synth(soundFont);
   m_canSound = synth.ready();

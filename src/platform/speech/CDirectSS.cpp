@@ -16,7 +16,8 @@ std::string describe(const SpeechEngine& engine, SpeechSetting setting, const ch
 
 }  // namespace
 
-CDirectSS::CDirectSS(SettingsStore settings) : m_settings(std::move(settings)), m_enabled(m_settings.GetTtsOn()) {}
+CDirectSS::CDirectSS(SettingsStore settings)
+    : m_settings(std::move(settings)), m_enabled(m_settings.GetTtsOn()) {}
 
 CDirectSS::~CDirectSS() {
   if (m_sequencer != nullptr) m_sequencer->setSpeechSilencer({});
@@ -80,9 +81,15 @@ bool CDirectSS::applyPercent(SpeechSetting setting, std::uint32_t percent) {
   return true;
 }
 
-bool CDirectSS::SetRate(std::uint32_t percent) { return applyPercent(SpeechSetting::Rate, percent); }
-bool CDirectSS::SetPitch(std::uint32_t percent) { return applyPercent(SpeechSetting::Pitch, percent); }
-bool CDirectSS::SetVolume(std::uint32_t percent) { return applyPercent(SpeechSetting::Volume, percent); }
+bool CDirectSS::SetRate(std::uint32_t percent) {
+  return applyPercent(SpeechSetting::Rate, percent);
+}
+bool CDirectSS::SetPitch(std::uint32_t percent) {
+  return applyPercent(SpeechSetting::Pitch, percent);
+}
+bool CDirectSS::SetVolume(std::uint32_t percent) {
+  return applyPercent(SpeechSetting::Volume, percent);
+}
 
 void CDirectSS::ApplySettings() {
   SelectVoice(m_settings.GetVoice());
@@ -112,15 +119,15 @@ std::string CDirectSS::ShowAboutDialog() {
 
 std::string CDirectSS::ShowGeneralDialog() {
   if (!m_engine) return {};
-  return tell("Voice " + m_engine->currentVoice() + ", " + describe(*m_engine, SpeechSetting::Rate, "rate") + ", " +
-              describe(*m_engine, SpeechSetting::Pitch, "pitch") + ", " +
+  return tell("Voice " + m_engine->currentVoice() + ", " + describe(*m_engine, SpeechSetting::Rate, "rate") +
+              ", " + describe(*m_engine, SpeechSetting::Pitch, "pitch") + ", " +
               describe(*m_engine, SpeechSetting::Volume, "volume") + ".");
 }
 
 std::string CDirectSS::ShowLexiconDialog() {
   if (!m_engine) return {};
-  return tell(m_engine->description() + " pronounces words by the rules of voice " + m_engine->currentVoice() +
-              "; it has no user lexicon.");
+  return tell(m_engine->description() + " pronounces words by the rules of voice " +
+              m_engine->currentVoice() + "; it has no user lexicon.");
 }
 
 }  // namespace sonalyx

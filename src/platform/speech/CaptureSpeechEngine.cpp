@@ -3,7 +3,9 @@
 namespace sonalyx {
 
 namespace {
-std::size_t slot(SpeechSetting setting) { return static_cast<std::size_t>(setting); }
+std::size_t slot(SpeechSetting setting) {
+  return static_cast<std::size_t>(setting);
+}
 }  // namespace
 
 CaptureSpeechEngine::CaptureSpeechEngine(Clock clock) : CaptureSpeechEngine(std::move(clock), Voices{}) {}
@@ -57,6 +59,8 @@ bool CaptureSpeechEngine::set(SpeechSetting setting, int value) {
   return true;
 }
 
-int CaptureSpeechEngine::get(SpeechSetting setting) const { return m_values[slot(setting)]; }
+int CaptureSpeechEngine::get(SpeechSetting setting) const {
+  return m_values[slot(setting)];
+}
 
 }  // namespace sonalyx

@@ -52,7 +52,8 @@ struct EspeakLibrary {
     }
     // espeak-ng's own choice for English is the default voice.
     if (espeak_SetVoiceByName("en") == EE_OK) {
-      if (const espeak_VOICE* current = espeak_GetCurrentVoice(); current != nullptr && current->name != nullptr) {
+      if (const espeak_VOICE* current = espeak_GetCurrentVoice();
+          current != nullptr && current->name != nullptr) {
         const auto found = std::find(voiceNames.begin(), voiceNames.end(), current->name);
         if (found != voiceNames.end()) defaultVoice = static_cast<std::size_t>(found - voiceNames.begin());
       }
@@ -65,17 +66,17 @@ struct EspeakLibrary {
 struct EspeakSpeechEngine::Job {
   std::string text;
   std::uint64_t generation = 0;
-  std::shared_ptr<SpeechStream> stream;               // a spoken utterance
-  std::promise<std::optional<RenderedSpeech>> file;   // or one rendered for a file
+  std::shared_ptr<SpeechStream> stream;              // a spoken utterance
+  std::promise<std::optional<RenderedSpeech>> file;  // or one rendered for a file
 };
 
 struct EspeakSpeechEngine::Synthesis {
   EspeakSpeechEngine* engine;
   Job* job;
   StreamResampler resampler;
-  std::vector<float> samples;     // the buffer just made, as floats
-  std::vector<float> resampled;   // the same at the mixer's rate
-  std::vector<float> forFile;     // the whole utterance at the engine's rate
+  std::vector<float> samples;    // the buffer just made, as floats
+  std::vector<float> resampled;  // the same at the mixer's rate
+  std::vector<float> forFile;    // the whole utterance at the engine's rate
   bool abandoned = false;
 };
 
@@ -84,7 +85,8 @@ int espeakSynthCallback(short* wav, int count, void* userData) {
   if (wav == nullptr || count <= 0) return synthesis->abandoned ? 1 : 0;
   synthesis->samples.resize(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) synthesis->samples[static_cast<std::size_t>(i)] = wav[i] / 32768.0F;
-  const bool keepGoing = synthesis->engine->deliver(*synthesis, synthesis->samples.data(), synthesis->samples.size());
+  const bool keepGoing =
+      synthesis->engine->deliver(*synthesis, synthesis->samples.data(), synthesis->samples.size());
   synthesis->abandoned = !keepGoing;
   return keepGoing ? 0 : 1;
 }
@@ -92,7 +94,9 @@ int espeakSynthCallback(short* wav, int count, void* userData) {
 namespace {
 
 int onSynthesised(short* wav, int count, espeak_EVENT* events) {
-  return events != nullptr && events->user_data != nullptr ? espeakSynthCallback(wav, count, events->user_data) : 1;
+  return events != nullptr && events->user_data != nullptr
+             ? espeakSynthCallback(wav, count, events->user_data)
+             : 1;
 }
 
 }  // namespace
@@ -120,11 +124,17 @@ EspeakSpeechEngine::~EspeakSpeechEngine() {
   if (library.configuredFor == this) library.configuredFor = nullptr;
 }
 
-bool EspeakSpeechEngine::isAvailable() const { return EspeakLibrary::get().sampleRate > 0; }
+bool EspeakSpeechEngine::isAvailable() const {
+  return EspeakLibrary::get().sampleRate > 0;
+}
 
-std::string EspeakSpeechEngine::name() const { return "espeak-ng"; }
+std::string EspeakSpeechEngine::name() const {
+  return "espeak-ng";
+}
 
-std::string EspeakSpeechEngine::description() const { return "eSpeak NG " + EspeakLibrary::get().version; }
+std::string EspeakSpeechEngine::description() const {
+  return "eSpeak NG " + EspeakLibrary::get().version;
+}
 
 void EspeakSpeechEngine::cancelQueuedSpeech() {
   for (auto it = m_jobs.begin(); it != m_jobs.end();) {
@@ -172,9 +182,13 @@ bool EspeakSpeechEngine::isSpeaking() const {
   return m_lastStream && !m_lastStream->isDone() && !m_lastStream->isCutOff();
 }
 
-std::vector<std::string> EspeakSpeechEngine::voices() const { return EspeakLibrary::get().voiceNames; }
+std::vector<std::string> EspeakSpeechEngine::voices() const {
+  return EspeakLibrary::get().voiceNames;
+}
 
-std::size_t EspeakSpeechEngine::defaultVoice() const { return EspeakLibrary::get().defaultVoice; }
+std::size_t EspeakSpeechEngine::defaultVoice() const {
+  return EspeakLibrary::get().defaultVoice;
+}
 
 bool EspeakSpeechEngine::selectVoice(std::size_t index) {
   if (index >= EspeakLibrary::get().voiceNames.size()) return false;
@@ -270,7 +284,8 @@ void EspeakSpeechEngine::applySettings() {
   }
   if (library.configuredFor == this && m_appliedVersion == version) return;
   // Loading a voice resets its parameters, so the voice comes first.
-  if (voice < library.voiceNames.size() && espeak_SetVoiceByName(library.voiceNames[voice].c_str()) != EE_OK) {
+  if (voice < library.voiceNames.size() &&
+      espeak_SetVoiceByName(library.voiceNames[voice].c_str()) != EE_OK) {
     espeak_SetVoiceByFile(library.voiceFiles[voice].c_str());
   }
   espeak_SetParameter(espeakRATE, rate, 0);

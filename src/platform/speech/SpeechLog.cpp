@@ -4,7 +4,8 @@
 
 namespace sonalyx {
 
-SpeechLog::SpeechLog(const std::string& path) : m_file(path, std::ios::out | std::ios::app | std::ios::binary) {}
+SpeechLog::SpeechLog(const std::string& path)
+    : m_file(path, std::ios::out | std::ios::app | std::ios::binary) {}
 
 std::unique_ptr<SpeechLog> SpeechLog::fromEnvironment() {
   const char* path = std::getenv("SONALYX_SPEECH_LOG");

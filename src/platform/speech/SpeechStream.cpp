@@ -21,7 +21,9 @@ std::size_t SpeechStream::write(const float* mono, std::size_t count) {
   return n;
 }
 
-void SpeechStream::finish() { m_finished.store(true, std::memory_order_release); }
+void SpeechStream::finish() {
+  m_finished.store(true, std::memory_order_release);
+}
 
 void SpeechStream::fadeOut() {
   cutOff();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/settings/RecordingBackend.h"
+#include "core/sound/AudioFormat.h"
 #include "support/NumericCompare.h"
 
 namespace sonalyx {
@@ -22,9 +23,8 @@ float peak(const std::vector<float>& sound) {
 struct Rig {
   std::shared_ptr<test::RecordingBackend> backend = std::make_shared<test::RecordingBackend>();
   SettingsStore settings{backend};
-  double now = 0.0;
-  AudioOutput output{AudioOutput::Mode::Null};
-  OutputSequencer sequencer{output, [this] { return now; }};
+  AudioOutput output{AudioOutput::Mode::Null, {}, AudioOutput::Pacing::Manual};
+  OutputSequencer sequencer{output};
 };
 
 TEST(SoundEffects, RendersEveryEffectOnceAsAQuarterSecondNote) {

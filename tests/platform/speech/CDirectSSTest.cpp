@@ -73,7 +73,8 @@ TEST(CDirectSS, SwitchingSelfVoicingIsHeardBothWays) {
 }
 
 TEST(CDirectSS, AppliesTheStoredVoiceAndPercentsOfTheEngineRanges) {
-  const Voices voices{{"Samantha", "Microsoft Sam", "Sam", "English (America)"}, 3, {0, 255}, {-10, 10}, {80, 450}};
+  const Voices voices{
+      {"Samantha", "Microsoft Sam", "Sam", "English (America)"}, 3, {0, 255}, {-10, 10}, {80, 450}};
   const struct {
     const char* voice;
     std::uint32_t rate, pitch, volume;

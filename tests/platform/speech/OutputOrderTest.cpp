@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/settings/RecordingBackend.h"
+#include "core/sound/AudioFormat.h"
 #include "core/sound/PointStepping.h"
 #include "platform/sound/EarconSound.h"
 #include "platform/sound/OutputSequencer.h"
@@ -19,13 +20,13 @@
 namespace sonalyx {
 namespace {
 
-// The sound and speech of one command, on a clock the test moves by hand.
+// The sound and speech of one command on an output the test moves on by hand, so
+// that its clock is exact.
 struct Rig {
   std::shared_ptr<test::RecordingBackend> backend = std::make_shared<test::RecordingBackend>();
   SettingsStore settings{backend};
-  double now = 1000.0;
-  AudioOutput output{AudioOutput::Mode::Null};
-  OutputSequencer sequencer{output, [this] { return now; }};
+  AudioOutput output{AudioOutput::Mode::Capture, {}, AudioOutput::Pacing::Manual};
+  OutputSequencer sequencer{output};
   std::unique_ptr<SoundEffects> effects;
   std::unique_ptr<CDirectSS> voice;
   CaptureSpeechEngine* engine = nullptr;
@@ -35,10 +36,11 @@ struct Rig {
     settings.SetSfxOn(true);
     effects = std::make_unique<SoundEffects>(settings, sequencer);
     voice = std::make_unique<CDirectSS>(settings);
-    auto capture = std::make_unique<CaptureSpeechEngine>([this] { return now; });
+    auto capture = std::make_unique<CaptureSpeechEngine>([this] { return output.nowMs(); });
     engine = capture.get();
     voice->Create(std::move(capture));
     voice->attach(sequencer);
+    output.advance(1000.0);
   }
 };
 
@@ -51,7 +53,7 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
       if (const auto pause = sweepPauseMs(s, points, 4)) r.sequencer.leadSpeech(static_cast<double>(*pause));
     };
   };
-  const Step wait100 = [](Rig& r) { r.now += 100.0; };
+  const Step wait100 = [](Rig& r) { r.output.advance(100.0); };
   const Step effectsOff = [](Rig& r) { r.effects->setOn(false); };
   const struct {
     const char* what;
@@ -71,7 +73,7 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
   for (const auto& c : cases) {
     Rig rig;
     for (const auto& step : c.before) step(rig);
-    const double calledAt = rig.now;
+    const double calledAt = rig.output.nowMs();
     rig.voice->Speak("x = 2, y = 0.333");
     ASSERT_EQ(rig.engine->utterances().size(), 1U) << c.what;
     EXPECT_TRUE(test::agreesTo(rig.engine->utterances()[0].startMs - calledAt, c.expectedDelay, 12, 1e-9))
@@ -82,27 +84,39 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
 TEST(OutputOrder, ANewUtteranceCutsOffTheOldAndStopSilencesEverything) {
   Rig rig;
   rig.voice->Speak("first");
-  rig.now += 40.0;
+  rig.output.advance(40.0);
   rig.effects->PlaySoundEffect(4);
   rig.voice->Speak("second");
-  auto graph = std::make_shared<EarconSound>(std::make_shared<const std::vector<float>>(kSampleRate * kChannels));
+  auto graph =
+      std::make_shared<EarconSound>(std::make_shared<const std::vector<float>>(kSampleRate * kChannels));
   rig.output.play(AudioChannel::Graph, graph, 0.0, "graph");
-  std::this_thread::sleep_for(std::chrono::milliseconds(60));
+  rig.output.advance(10.0);
   ASSERT_TRUE(rig.output.isActive(AudioChannel::Graph));
   ASSERT_TRUE(rig.output.isActive(AudioChannel::Effect));
 
-  rig.now += 10.0;
   rig.sequencer.stopAll();
   const auto& said = rig.engine->utterances();
   ASSERT_EQ(said.size(), 2U);
   ASSERT_TRUE(said[0].cutMs && said[1].cutMs);
-  EXPECT_TRUE(test::agreesTo(*said[0].cutMs, 1040.0, 12));   // cut by the second
-  EXPECT_TRUE(test::agreesTo(said[1].startMs, 1290.0, 12));  // after the earcon
-  EXPECT_TRUE(test::agreesTo(*said[1].cutMs, 1050.0, 12));   // dropped before it began
+  EXPECT_TRUE(test::agreesTo(*said[0].cutMs, 1040.0, 12));              // cut off by the second
+  EXPECT_TRUE(test::agreesTo(said[1].startMs, 1290.0, 12));             // after the earcon
+  EXPECT_TRUE(test::agreesTo(*said[1].cutMs, 1050.0, 12));              // dropped before it began
   EXPECT_TRUE(test::agreesTo(rig.sequencer.speechDelayMs(), 0.0, 12));  // nothing leads any more
-  EXPECT_TRUE(rig.output.waitUntilIdle(200.0));
   for (const AudioChannel channel : {AudioChannel::Graph, AudioChannel::Effect, AudioChannel::Speech}) {
     EXPECT_FALSE(rig.output.isActive(channel));
+  }
+  // The earcon started when it was asked for, 250 ms before the speech it led.
+  const auto events = rig.output.events();
+  ASSERT_EQ(events.size(), 2U);
+  EXPECT_EQ(events[0].channel, AudioChannel::Effect);
+  EXPECT_EQ(events[0].label, "earcon 4");
+  EXPECT_TRUE(test::agreesTo(events[0].startMs, 1040.0, 12));
+  // Within a fade everything is quiet.
+  rig.output.advance(10.0);
+  const std::vector<float> heard = rig.output.capturedSamples();
+  const std::size_t lastFrames = framesForMilliseconds(4.0) * kChannels;
+  for (std::size_t i = heard.size() - lastFrames; i < heard.size(); ++i) {
+    ASSERT_TRUE(test::agreesTo(heard[i], 0.0, 12)) << i;
   }
 }
 

@@ -73,9 +73,13 @@ SystemSpeechEngine::SystemSpeechEngine() : m_impl(std::make_unique<Impl>()) {
 
 SystemSpeechEngine::~SystemSpeechEngine() = default;
 
-bool SystemSpeechEngine::isAvailable() const { return m_impl->speech.state() != QTextToSpeech::Error; }
+bool SystemSpeechEngine::isAvailable() const {
+  return m_impl->speech.state() != QTextToSpeech::Error;
+}
 
-std::string SystemSpeechEngine::name() const { return "system"; }
+std::string SystemSpeechEngine::name() const {
+  return "system";
+}
 
 std::string SystemSpeechEngine::description() const {
   return "System speech service (Qt " + m_impl->speech.engine().toStdString() + ")";
@@ -119,7 +123,9 @@ std::vector<std::string> SystemSpeechEngine::voices() const {
   return names;
 }
 
-std::size_t SystemSpeechEngine::defaultVoice() const { return m_impl->defaultVoice; }
+std::size_t SystemSpeechEngine::defaultVoice() const {
+  return m_impl->defaultVoice;
+}
 
 bool SystemSpeechEngine::selectVoice(std::size_t index) {
   if (index >= static_cast<std::size_t>(m_impl->voices.size())) return false;
@@ -127,7 +133,9 @@ bool SystemSpeechEngine::selectVoice(std::size_t index) {
   return true;
 }
 
-std::string SystemSpeechEngine::currentVoice() const { return m_impl->speech.voice().name().toStdString(); }
+std::string SystemSpeechEngine::currentVoice() const {
+  return m_impl->speech.voice().name().toStdString();
+}
 
 EngineRange SystemSpeechEngine::range(SpeechSetting setting) const {
   switch (setting) {
