@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "core/settings/RecordingBackend.h"
