@@ -34,6 +34,8 @@ const std::vector<CommandEntry>& commandTable() {
       {"earcon", "earcon ID", runEarconCommand},
       {"evaluate", "evaluate LINE|--up|--down...", runEvaluateCommand},
       {"matrix", "matrix LINE|--up|--down...", runMatrixCommand},
+      {"sonify", "sonify FILE|--expr EXPRESSION -o OUT.wav [--stereo] [--ticks]", runSonifyCommand},
+      {"play", "play FILE|--expr EXPRESSION [--stereo] [--ticks]", runPlayCommand},
   };
   return table;
 }

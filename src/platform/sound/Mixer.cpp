@@ -42,10 +42,11 @@ Mixer::~Mixer() = default;
 void Mixer::pushCommand(Command command) {
   {
     std::lock_guard lock(m_queueMutex);
+    if (command.source) ++m_sourcesHeld;
     m_pending.push_back(std::move(command));
     // Every source the audio thread holds or will hold must fit into the retired list
     // without the audio thread growing it. Ordinary use stays within the first room.
-    const std::size_t needed = m_retired.size() + m_pending.size() + kMaxVoices;
+    const std::size_t needed = m_retired.size() + m_sourcesHeld;
     if (m_retired.capacity() < needed) m_retired.reserve(needed + kQueueRoom);
   }
   releaseFinished();
@@ -119,6 +120,7 @@ void Mixer::retire(std::shared_ptr<AudioSource>& source) {
   if (!source) return;
   std::lock_guard lock(m_queueMutex);
   m_retired.push_back(std::move(source));  // within the reserved room: no allocation
+  --m_sourcesHeld;
 }
 
 void Mixer::silenceChannel(AudioChannel channel) {

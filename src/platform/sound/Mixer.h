@@ -78,6 +78,7 @@ class Mixer {
   mutable std::mutex m_queueMutex;
   std::vector<Command> m_pending;
   std::vector<std::shared_ptr<AudioSource>> m_retired;
+  std::size_t m_sourcesHeld = 0;  // handed over and not yet retired, wherever they are
   std::array<std::atomic<bool>, kChannelCount> m_busy{};
   std::atomic<std::uint64_t> m_framesMixed{0};
 

@@ -110,6 +110,25 @@ TEST(AudioOutput, ReplacingOrStoppingFadesTheChannelWithinOneBuffer) {
   }
 }
 
+TEST(AudioOutput, AStormOfRequestsPlaysTheLastAndReleasesTheRest) {
+  AudioOutput output(AudioOutput::Mode::Capture, {}, kManual);
+  std::vector<std::weak_ptr<AudioSource>> handedOver;
+  const int count = 300;  // far more than the queues' first room
+  for (int i = 0; i < count; ++i) {
+    auto source = level(0.001f * static_cast<float>(i), 0.0f, 30.0);
+    handedOver.push_back(source);
+    output.play(AudioChannel::Effect, std::move(source), 0.0, std::to_string(i));
+  }
+  output.advance(10.0);
+  const auto events = output.events();
+  ASSERT_EQ(events.size(), 1u);
+  EXPECT_EQ(events[0].label, std::to_string(count - 1));
+  EXPECT_TRUE(agreesTo(output.capturedSamples()[0], 0.001 * (count - 1), 5));
+  for (int i = 0; i < count - 1; ++i) EXPECT_TRUE(handedOver[i].expired()) << i;
+  output.advance(30.0);
+  EXPECT_TRUE(handedOver.back().expired());
+}
+
 TEST(AudioOutput, SumsTheChannelsAndClipsTheMix) {
   const float nan = std::numeric_limits<float>::quiet_NaN();
   const float inf = std::numeric_limits<float>::infinity();
