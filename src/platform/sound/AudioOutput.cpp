@@ -19,9 +19,11 @@
 #include <sanitizer/lsan_interface.h>
 
 // libpulse, which SDL loads for the sound server, leaks a sink-information request when
-// SDL's hot-plug thread stops during a query; it is not ours to free.
+// SDL's hot-plug thread stops during a query; libspeechd, behind Qt's speech engine,
+// keeps the text of its error when the speech service cannot be reached. Neither is
+// ours to free.
 extern "C" const char* __lsan_default_suppressions() {
-  return "leak:libpulse.so\n";
+  return "leak:libpulse.so\nleak:libspeechd.so\n";
 }
 #endif
 
