@@ -30,6 +30,12 @@ const std::vector<CommandEntry>& commandTable() {
       {"stats", "stats FILE", runStatsCommand},
       {"fit", "fit MODEL FILE [--period B] [--expression]", runFitCommand},
       {"calc", "calc [--trace] KEY...", runCalcCommand},
+      {"speak", "speak [-o OUT.wav] [--voice V] [--rate R] TEXT", runSpeakCommand},
+      {"earcon", "earcon ID", runEarconCommand},
+      {"evaluate", "evaluate LINE|--up|--down...", runEvaluateCommand},
+      {"matrix", "matrix LINE|--up|--down...", runMatrixCommand},
+      {"sonify", "sonify FILE|--expr EXPRESSION -o OUT.wav [--stereo] [--ticks]", runSonifyCommand},
+      {"play", "play FILE|--expr EXPRESSION [--stereo] [--ticks]", runPlayCommand},
   };
   return table;
 }

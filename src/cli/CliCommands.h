@@ -32,4 +32,20 @@ int runCalcCommand(const Arguments& args, std::ostream& out);
 int runStatsCommand(const Arguments& args, std::ostream& out);
 int runFitCommand(const Arguments& args, std::ostream& out);
 
+// speak [-o OUT.wav] [--voice V] [--rate R] TEXT: says TEXT (even with self-voicing
+// off) and returns when it has been said, or writes it to a wave file.
+int runSpeakCommand(const Arguments& args, std::ostream& out);
+// earcon ID: plays sound effect ID (even with the effects off) and returns when done.
+int runEarconCommand(const Arguments& args, std::ostream& out);
+// evaluate LINE... | matrix LINE...: each line as typed into the Evaluator or the
+// Matrix page and Enter pressed, in order, in one session; "--up" and "--down"
+// press the arrow keys. Prints what the page shows after each.
+int runEvaluateCommand(const Arguments& args, std::ostream& out);
+int runMatrixCommand(const Arguments& args, std::ostream& out);
+
+// The graph's sound: sonify writes it to a wave file and prints the file's name; play
+// plays it through the sound card and returns when it has finished.
+int runSonifyCommand(const Arguments& args, std::ostream& out);
+int runPlayCommand(const Arguments& args, std::ostream& out);
+
 }  // namespace sonalyx::cli

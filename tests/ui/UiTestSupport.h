@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QWidget>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -17,6 +18,9 @@
 #include <vector>
 
 #include "core/settings/SettingsStore.h"
+#include "platform/sound/AudioOutput.h"
+#include "platform/speech/CDirectSS.h"
+#include "platform/speech/CaptureSpeechEngine.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/CMainFrame.h"
@@ -54,6 +58,54 @@ class ScopedEnv {
  private:
   const char* m_name;
   std::optional<std::string> m_old;
+};
+
+// What the program said and which earcons it played, in the order the user hears
+// them: each utterance as its text, each earcon as "earcon N".
+class Heard {
+ public:
+  Heard() { mark(); }
+
+  // Forgets everything heard so far.
+  void mark() {
+    const CaptureSpeechEngine* engine = capture();
+    m_utterances = engine ? engine->utterances().size() : 0;
+    m_events = AudioOutput::instance().events().size();
+  }
+
+  // Everything heard since the last mark, then marks.
+  std::vector<std::string> take() {
+    struct Entry {
+      double startMs;
+      int order;  // an earcon before the speech that starts with it
+      std::string text;
+    };
+    std::vector<Entry> entries;
+    if (const CaptureSpeechEngine* engine = capture()) {
+      const auto& said = engine->utterances();
+      for (std::size_t i = m_utterances; i < said.size(); ++i)
+        entries.push_back({said[i].startMs, 1, said[i].text});
+    }
+    const auto events = AudioOutput::instance().events();
+    for (std::size_t i = m_events; i < events.size(); ++i)
+      if (events[i].channel == AudioChannel::Effect)
+        entries.push_back({events[i].startMs, 0, events[i].label});
+    std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+      return a.startMs < b.startMs || (a.startMs == b.startMs && a.order < b.order);
+    });
+    mark();
+    std::vector<std::string> texts;
+    for (const Entry& entry : entries) texts.push_back(entry.text);
+    return texts;
+  }
+
+  static const CaptureSpeechEngine* capture() {
+    return dynamic_cast<const CaptureSpeechEngine*>(CDirectSS::instance().engine());
+  }
+
+ private:
+  std::size_t m_utterances = 0;
+  std::size_t m_events = 0;
 };
 
 // A settings file of its own in a fresh folder, removed afterwards.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,9 +30,15 @@ class AudioOutput {
     std::string label;  // given with play()
   };
 
+  // RealTime consumes sound at the device's pace. Manual (Null and Capture only, for
+  // tests and benchmarks) runs no clock of its own: the sound moves on only through
+  // advance(), on the caller's thread, as fast as it is called.
+  enum class Pacing { RealTime, Manual };
+
   // Null and Default open at once; Capture writes the mixed sound to `captureFile`
   // (16-bit stereo wave) when the output is destroyed or flushCapture() is called.
-  explicit AudioOutput(Mode mode, std::string captureFile = {});
+  // Default falls back to the null output when no sound card can be opened.
+  explicit AudioOutput(Mode mode, std::string captureFile = {}, Pacing pacing = Pacing::RealTime);
   ~AudioOutput();
   AudioOutput(const AudioOutput&) = delete;
   AudioOutput& operator=(const AudioOutput&) = delete;
@@ -55,11 +62,22 @@ class AudioOutput {
   // Milliseconds of sound handed to the device (or consumed) since the output opened.
   double nowMs() const;
   Mode mode() const;
+  // The audio driver in use ("pulseaudio", "alsa", ...), empty on the null output.
+  std::string deviceDriver() const;
+  // Frames the mixer fills at a time: starts, fades and stops happen within one.
+  std::size_t bufferFrames() const;
+
+  // Manual pacing only: mixes the next `ms` of sound now.
+  void advance(double ms);
 
   // Capture mode: the sources started so far, and the mixed samples (interleaved).
   std::vector<Event> events() const;
   std::vector<float> capturedSamples() const;
   void flushCapture();
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> m_impl;
 };
 
 }  // namespace sonalyx

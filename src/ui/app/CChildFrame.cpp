@@ -302,16 +302,7 @@ void CChildFrame::OnRestoreDefaults() {
 }
 
 void CChildFrame::OnSelfVoicing() {
-  const bool on = !m_app.settings().GetTtsOn();
-  m_app.settings().SetTtsOn(on);
-  if (on) {
-    voice::SetEnabled(true);
-    voice::Speak(Translate("Self-voicing activated."));
-  } else {
-    // Said while the voice is still on, so that it is heard.
-    voice::Speak(Translate("Self-voicing deactivated."));
-    voice::SetEnabled(false);
-  }
+  voice::ToggleSelfVoicing(m_app.settings());
 }
 
 void CChildFrame::OnAutoReturn() {

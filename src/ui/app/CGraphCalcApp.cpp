@@ -4,6 +4,10 @@
 #include <QCursor>
 
 #include "core/speech/LanguageTable.h"
+#include "platform/qt/speech/SystemSpeechEngine.h"
+#include "platform/sound/OutputSequencer.h"
+#include "platform/sound/SoundEffects.h"
+#include "platform/speech/CDirectSS.h"
 #include "ui/app/CAboutDlg.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CMainFrame.h"
@@ -43,6 +47,7 @@ CGraphCalcApp::CGraphCalcApp(ProgramOptions options)
 
 CGraphCalcApp::~CGraphCalcApp() {
   m_mainFrame.reset();
+  m_soundEffects.reset();
   if (g_instance == this) g_instance = nullptr;
 }
 
@@ -52,14 +57,21 @@ CGraphCalcApp* CGraphCalcApp::instance() {
 
 bool CGraphCalcApp::InitInstance() {
   PublishVersion(m_settings, product::kVersion, m_options.argumentText);
-  m_sfxOn = m_settings.GetSfxOn();
+  // The earcons' switch starts as the stored sfxOn.
+  m_soundEffects = std::make_unique<SoundEffects>(m_settings, OutputSequencer::instance());
 
   // Disabled menu items stay reachable from the keyboard so that they can be heard.
   QApplication::setStyle(new CMenuStyle());
 
   m_mainFrame = std::make_unique<CMainFrame>(*this);
 
-  voice::SetEnabled(m_settings.GetTtsOn());
+  // The one voice, made once per process; its switch follows this run's settings.
+  CDirectSS& voice = voice::device();
+  if (!voice.engine()) {
+    registerSystemSpeechEngine();
+    voice.Create(OutputSequencer::instance());
+  }
+  voice.setEnabled(m_settings.GetTtsOn());
 
   QApplication::beep();
   QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -83,9 +95,16 @@ int CGraphCalcApp::ExitInstance() {
   return 0;
 }
 
+bool CGraphCalcApp::sfxOn() const {
+  return m_soundEffects && m_soundEffects->isOn();
+}
+
+void CGraphCalcApp::setSfxOn(bool on) {
+  if (m_soundEffects) m_soundEffects->setOn(on);
+}
+
 void CGraphCalcApp::PlaySoundEffect(int id) const {
-  if (!m_sfxOn) return;
-  voice::PlayEffect(id);
+  if (m_soundEffects) m_soundEffects->PlaySoundEffect(id);
 }
 
 void CGraphCalcApp::OnAppAbout() {

@@ -10,6 +10,10 @@
 #include "core/settings/SettingsStore.h"
 #include "ui/app/ProgramOptions.h"
 
+namespace sonalyx {
+class SoundEffects;
+}
+
 namespace sonalyx::ui {
 
 class CCommandTable;
@@ -49,9 +53,10 @@ class CGraphCalcApp : public QObject {
 
   // The sound-effect switch, read from sfxOn at start; the Speech page keeps it in
   // step with the setting.
-  bool sfxOn() const { return m_sfxOn; }
-  void setSfxOn(bool on) { m_sfxOn = on; }
-  // Plays earcon `id` when the switch is on; returns at once otherwise.
+  bool sfxOn() const;
+  void setSfxOn(bool on);
+  // Plays earcon `id` when the switch is on; returns at once otherwise. Speech
+  // that follows waits for the earcon.
   void PlaySoundEffect(int id) const;
 
   CMainFrame* mainFrame() const { return m_mainFrame.get(); }
@@ -71,7 +76,8 @@ class CGraphCalcApp : public QObject {
   std::unique_ptr<PrintSetupState> m_printState;
   // Destroyed first of the run's state, after the windows.
   std::unique_ptr<CTranslationDictionary> m_dictionary;
-  bool m_sfxOn = false;
+  // The earcons and their switch, from start-up on.
+  std::unique_ptr<SoundEffects> m_soundEffects;
   std::unique_ptr<CMainFrame> m_mainFrame;
   CCommandTable* m_commands = nullptr;  // owned by the main frame
 };

@@ -1,21 +1,33 @@
 #include "ui/app/Voice.h"
 
-// Not yet connected to the speech engine: the voice's switch is kept here and the
-// texts go nowhere until the program's speech control is wired in.
+#include "platform/speech/CDirectSS.h"
+#include "platform/speech/SelfVoicing.h"
+#include "ui/app/CGraphCalcApp.h"
+
 namespace sonalyx::ui::voice {
 
-namespace {
-bool g_enabled = false;
+CDirectSS& device() {
+  return CDirectSS::instance();
 }
 
-void Speak(const QString& /*text*/) {}
-void Stop() {}
+void Speak(const QString& text) {
+  device().Speak(text.toStdString());
+}
+
+void Stop() {
+  device().Stop();
+}
+
 bool Enabled() {
-  return g_enabled;
+  return device().enabled();
 }
+
 void SetEnabled(bool enabled) {
-  g_enabled = enabled;
+  device().setEnabled(enabled);
 }
-void PlayEffect(int /*id*/) {}
+
+bool ToggleSelfVoicing(const SettingsStore& settings) {
+  return toggleSelfVoicing(settings, device(), [](const std::string& text) { return Translate(text); });
+}
 
 }  // namespace sonalyx::ui::voice

@@ -1,0 +1,82 @@
+#include "core/pages/EvaluatorSession.h"
+
+#include <utility>
+
+#include "core/engines/Evaluator.h"
+#include "core/pages/Assignment.h"
+#include "core/pages/VariableSubstitution.h"
+#include "core/utility/NumberFormat.h"
+
+namespace sonalyx {
+
+EvaluatorSession::EvaluatorSession(Translator translator, Evaluate evaluate, std::size_t listCapacity)
+    : m_translator(std::move(translator)),
+      m_evaluate(evaluate ? std::move(evaluate) : Evaluate(Calculate)),
+      m_listCapacity(listCapacity < 1 ? 1 : listCapacity) {}
+
+std::string EvaluatorSession::translate(const char* text) const {
+  return translateWith(m_translator, text);
+}
+
+void EvaluatorSession::insertIntoList(std::string entry) {
+  if (m_resultsList.size() >= m_listCapacity) m_resultsList.pop_back();
+  m_resultsList.push_front(std::move(entry));
+}
+
+EvaluatorEntry EvaluatorSession::enter(const std::string& text) {
+  EvaluatorEntry shown;
+  if (text.empty()) return shown;
+  shown.handled = true;
+  shown.clearExpression = true;
+
+  if (auto assignment = parseEvaluatorAssignment(text)) {
+    shown.resultText = assignment->value;
+    m_variables[assignment->name] = std::move(assignment->value);
+    m_history.add(text);
+    shown.listEntry = text;
+    insertIntoList(text);
+    return shown;
+  }
+
+  // Looking a variable up shows its text as stored, unevaluated; it is no new
+  // entry for the history.
+  std::string entry = text;
+  if (const auto stored = m_variables.find(std::string(trimBlanks(text))); stored != m_variables.end()) {
+    entry = stored->first;
+    shown.resultText = stored->second;
+  } else {
+    m_history.add(text);
+    std::string expression = text;
+    double value = 0.0;
+    std::string error;
+    if (!substituteVariables(expression, m_variables)) {
+      shown.resultText = translate(kCircularVariables);
+    } else if (m_evaluate(expression, value, error)) {
+      shown.resultText = formatNumber(value, "%.14g");
+    } else {
+      shown.resultText = error == "parse error" ? translate(kInvalidEntry) : error;
+    }
+  }
+  shown.listEntry = entry + " = " + shown.resultText;
+  insertIntoList(*shown.listEntry);
+  shown.speech = translate(kResultLabel) + shown.resultText;
+  return shown;
+}
+
+std::optional<EvaluatorRecall> EvaluatorSession::recalled(std::optional<std::string> text) const {
+  if (!text) return std::nullopt;
+  EvaluatorRecall recall;
+  recall.speech = translate(kExpressionLabel) + *text;
+  recall.expressionText = std::move(*text);
+  return recall;
+}
+
+std::optional<EvaluatorRecall> EvaluatorSession::recallUp() {
+  return recalled(m_history.up());
+}
+
+std::optional<EvaluatorRecall> EvaluatorSession::recallDown() {
+  return recalled(m_history.down());
+}
+
+}  // namespace sonalyx

@@ -1,0 +1,133 @@
+#include "platform/speech/CDirectSS.h"
+
+#include "core/speech/VoiceChoice.h"
+#include "core/utility/NumberFormat.h"
+#include "platform/speech/SpeechEngineRegistry.h"
+
+namespace sonalyx {
+
+namespace {
+
+std::string describe(const SpeechEngine& engine, SpeechSetting setting, const char* label) {
+  const EngineRange span = engine.range(setting);
+  return std::string(label) + " " + formatNumber(engine.get(setting), "%.10g") + " (" +
+         formatNumber(span.minimum, "%.10g") + " to " + formatNumber(span.maximum, "%.10g") + ")";
+}
+
+}  // namespace
+
+CDirectSS::CDirectSS(SettingsStore settings)
+    : m_settings(std::move(settings)), m_enabled(m_settings.GetTtsOn()) {}
+
+CDirectSS::~CDirectSS() {
+  if (m_sequencer != nullptr) m_sequencer->setSpeechSilencer({});
+}
+
+CDirectSS& CDirectSS::instance() {
+  static CDirectSS voice(SettingsStore::openDefault());
+  return voice;
+}
+
+bool CDirectSS::Create(std::unique_ptr<SpeechEngine> engine) {
+  if (!engine) return false;
+  m_engine = std::move(engine);
+  ApplySettings();
+  return true;
+}
+
+bool CDirectSS::Create(OutputSequencer& sequencer) {
+  attach(sequencer);
+  if (!m_log) m_log = SpeechLog::fromEnvironment();
+  const std::string chosen = SpeechEngineRegistry::chosenName();
+  std::unique_ptr<SpeechEngine> engine = SpeechEngineRegistry::create(chosen, sequencer.output());
+  // A user who cannot see must not be left without a voice because the chosen one is missing.
+  if (!engine && chosen != SpeechEngineRegistry::kDefaultEngine) {
+    engine = SpeechEngineRegistry::create(SpeechEngineRegistry::kDefaultEngine, sequencer.output());
+  }
+  return Create(std::move(engine));
+}
+
+void CDirectSS::attach(OutputSequencer& sequencer) {
+  if (m_sequencer != nullptr && m_sequencer != &sequencer) m_sequencer->setSpeechSilencer({});
+  m_sequencer = &sequencer;
+  sequencer.setSpeechSilencer([this] { Silence(); });
+}
+
+void CDirectSS::Speak(const std::string& text) {
+  if (!m_engine || !m_enabled) return;
+  if (m_log) m_log->append(text);
+  m_engine->speak(text, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
+}
+
+void CDirectSS::Stop() {
+  if (m_engine && m_enabled) m_engine->stop();
+}
+
+void CDirectSS::Silence() {
+  if (m_engine) m_engine->stop();
+}
+
+bool CDirectSS::SelectVoice(const std::string& name) {
+  if (!m_engine) return false;
+  const std::vector<std::string> voices = m_engine->voices();
+  if (voices.empty()) return false;
+  m_engine->selectVoice(chooseVoice(voices, name, m_engine->defaultVoice()));
+  return true;
+}
+
+bool CDirectSS::applyPercent(SpeechSetting setting, std::uint32_t percent) {
+  if (!m_engine) return false;
+  m_engine->set(setting, m_engine->range(setting).fromPercent(percent));
+  return true;
+}
+
+bool CDirectSS::SetRate(std::uint32_t percent) {
+  return applyPercent(SpeechSetting::Rate, percent);
+}
+bool CDirectSS::SetPitch(std::uint32_t percent) {
+  return applyPercent(SpeechSetting::Pitch, percent);
+}
+bool CDirectSS::SetVolume(std::uint32_t percent) {
+  return applyPercent(SpeechSetting::Volume, percent);
+}
+
+void CDirectSS::ApplySettings() {
+  SelectVoice(m_settings.GetVoice());
+  SetRate(m_settings.GetRate());
+  SetPitch(m_settings.GetPitch());
+  SetVolume(m_settings.GetVol());
+}
+
+bool CDirectSS::GetVoices(std::vector<std::string>& list) const {
+  list.clear();
+  if (!m_engine) return false;
+  const std::vector<std::string> voices = m_engine->voices();
+  if (voices.empty()) return false;
+  list = m_filter.offered(voices);
+  return true;
+}
+
+std::string CDirectSS::tell(std::string text) {
+  Speak(text);
+  return text;
+}
+
+std::string CDirectSS::ShowAboutDialog() {
+  if (!m_engine) return {};
+  return tell(m_engine->description() + ".");
+}
+
+std::string CDirectSS::ShowGeneralDialog() {
+  if (!m_engine) return {};
+  return tell("Voice " + m_engine->currentVoice() + ", " + describe(*m_engine, SpeechSetting::Rate, "rate") +
+              ", " + describe(*m_engine, SpeechSetting::Pitch, "pitch") + ", " +
+              describe(*m_engine, SpeechSetting::Volume, "volume") + ".");
+}
+
+std::string CDirectSS::ShowLexiconDialog() {
+  if (!m_engine) return {};
+  return tell(m_engine->description() + " pronounces words by the rules of voice " +
+              m_engine->currentVoice() + "; it has no user lexicon.");
+}
+
+}  // namespace sonalyx

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/settings/SettingsStore.h"
+#include "core/speech/VoiceFilter.h"
+#include "platform/sound/OutputSequencer.h"
+#include "platform/speech/SpeechEngine.h"
+#include "platform/speech/SpeechLog.h"
+
+namespace sonalyx {
+
+// The program's one voice: every spoken word goes through Speak(), which cuts off
+// whatever was being said. Callers translate before they speak; this speaks what
+// it is given. Without an engine every operation does nothing or returns false, and
+// the program runs silently. Used from the user-interface thread only.
+class CDirectSS {
+ public:
+  // `enabled` starts as the stored `ttsOn`.
+  explicit CDirectSS(SettingsStore settings);
+  ~CDirectSS();
+  CDirectSS(const CDirectSS&) = delete;
+  CDirectSS& operator=(const CDirectSS&) = delete;
+
+  // The program-wide voice over the user's settings.
+  static CDirectSS& instance();
+
+  // Takes `engine` and applies the stored voice, rate, pitch and volume; false
+  // (and silence) without one.
+  bool Create(std::unique_ptr<SpeechEngine> engine);
+  // The engine SONALYX_SPEECH names (espeak-ng by default) playing into the
+  // sequencer's output, the log SONALYX_SPEECH_LOG names, and the sequencer's order.
+  bool Create(OutputSequencer& sequencer);
+  // Speech waits for the sounds the sequencer says lead it, and its stopAll()
+  // silences this voice too.
+  void attach(OutputSequencer& sequencer);
+  void setLog(std::unique_ptr<SpeechLog> log) { m_log = std::move(log); }
+  SpeechEngine* engine() const { return m_engine.get(); }
+
+  // Nothing while disabled. Otherwise cuts off the current utterance and says
+  // `text` (after whatever sound leads it), writing it to the log first.
+  void Speak(const std::string& text);
+  // Cuts off the current utterance; nothing while disabled.
+  void Stop();
+  // Cuts off the current utterance even while disabled (everything is being silenced).
+  void Silence();
+
+  // Picks the voice of exactly that name, else the first whose name contains it,
+  // else the engine's default. False without an engine or when it has no voices.
+  bool SelectVoice(const std::string& name);
+  // Percent of the engine's range (see EngineRange::fromPercent); false without an engine.
+  bool SetRate(std::uint32_t percent);
+  bool SetPitch(std::uint32_t percent);
+  bool SetVolume(std::uint32_t percent);
+  // Applies the stored voice, rate, pitch and volume, in that order.
+  void ApplySettings();
+  // The voices offered to the user (see VoiceFilter); false, and an empty list,
+  // without an engine or voices.
+  bool GetVoices(std::vector<std::string>& list) const;
+
+  // The engine's own dialogs. Here they tell what they would show, aloud (when
+  // enabled) and as the returned text; empty without an engine.
+  std::string ShowAboutDialog();
+  std::string ShowGeneralDialog();
+  std::string ShowLexiconDialog();
+
+  // Written only by the two places that switch self-voicing (see SelfVoicing.h).
+  bool enabled() const { return m_enabled; }
+  void setEnabled(bool enabled) { m_enabled = enabled; }
+
+ private:
+  bool applyPercent(SpeechSetting setting, std::uint32_t percent);
+  std::string tell(std::string text);
+
+  SettingsStore m_settings;
+  VoiceFilter m_filter;
+  bool m_enabled;
+  std::unique_ptr<SpeechEngine> m_engine;
+  std::unique_ptr<SpeechLog> m_log;
+  OutputSequencer* m_sequencer = nullptr;
+};
+
+}  // namespace sonalyx

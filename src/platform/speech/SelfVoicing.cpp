@@ -1,0 +1,22 @@
+#include "platform/speech/SelfVoicing.h"
+
+namespace sonalyx {
+
+void setSelfVoicing(bool on, const SettingsStore& settings, CDirectSS& voice, const Translator& translate) {
+  settings.SetTtsOn(on);
+  if (on) {
+    voice.setEnabled(true);
+    voice.Speak(translateWith(translate, "Self-voicing activated."));
+  } else {
+    voice.Speak(translateWith(translate, "Self-voicing deactivated."));
+    voice.setEnabled(false);
+  }
+}
+
+bool toggleSelfVoicing(const SettingsStore& settings, CDirectSS& voice, const Translator& translate) {
+  const bool on = !settings.GetTtsOn();
+  setSelfVoicing(on, settings, voice, translate);
+  return on;
+}
+
+}  // namespace sonalyx
