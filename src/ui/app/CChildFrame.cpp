@@ -79,8 +79,6 @@ CChildFrame::CChildFrame(CGraphCalcApp& app, CCommandTable& commands)
     if (QMenu* popup = m_commands.popup(position))
       connect(popup, &QMenu::aboutToShow, this, &CChildFrame::UpdateCommandUI);
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &CChildFrame::UpdateCommandUI);
-  // Every key press first meets the frame's keys (see eventFilter).
-  qApp->installEventFilter(this);
 
   resizeOuter(frame::kInitialWidth, frame::kInitialHeight);
   recreateFonts();
@@ -367,6 +365,20 @@ bool CChildFrame::eventFilter(QObject* watched, QEvent* event) {
     layoutClient();
     return false;
   }
+  if (event->type() == QEvent::KeyPress) {
+    // Ctrl+Tab turns the panel's pages (the work area would take it to switch
+    // windows, and there is only one).
+    const auto* key = static_cast<QKeyEvent*>(event);
+    auto* widget = qobject_cast<QWidget*>(watched);
+    const bool tabKey = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+    if (tabKey && key->modifiers().testFlag(Qt::ControlModifier) &&
+        !key->modifiers().testFlag(Qt::AltModifier) && widget &&
+        (widget == m_sheet || m_sheet->isAncestorOf(widget))) {
+      m_sheet->StepPage(key->key() == Qt::Key_Backtab || key->modifiers().testFlag(Qt::ShiftModifier) ? -1
+                                                                                                      : 1);
+      return true;
+    }
+  }
   if (event->type() == QEvent::ShortcutOverride) {
     auto* widget = qobject_cast<QWidget*>(watched);
     if (widget && widget == QApplication::focusWidget() && widget->window() == window()) {
@@ -384,6 +396,14 @@ bool CChildFrame::eventFilter(QObject* watched, QEvent* event) {
 void CChildFrame::focusInEvent(QFocusEvent* event) {
   QMdiSubWindow::focusInEvent(event);
   m_sheet->tabControl()->setFocus(event->reason());
+}
+
+void CChildFrame::showEvent(QShowEvent* event) {
+  QMdiSubWindow::showEvent(event);
+  // Every key press first meets the frame's keys (see eventFilter). Installed again
+  // on every showing so that it runs before the filters the work area adds.
+  qApp->removeEventFilter(this);
+  qApp->installEventFilter(this);
 }
 
 void CChildFrame::closeEvent(QCloseEvent* event) {

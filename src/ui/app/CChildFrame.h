@@ -57,6 +57,7 @@ class CChildFrame : public QMdiSubWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void layoutClient();

@@ -74,7 +74,8 @@ void CTTSButton::PressFeedback() {
 bool CTTSButton::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_button && event->type() == QEvent::FocusIn) {
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) Speak();
+    if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && m_button->isActiveWindow())
+      Speak();
   }
   return QObject::eventFilter(watched, event);
 }

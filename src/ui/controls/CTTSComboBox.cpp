@@ -53,9 +53,7 @@ void CTTSComboBox::speakItem(int index) {
 
 void CTTSComboBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
-  // Coming back from its own open list is not a new arrival.
-  if (event->reason() == Qt::PopupFocusReason) return;
-  Speak();
+  if (voiced::isArrival(this, event)) Speak();
 }
 
 }  // namespace sonalyx::ui

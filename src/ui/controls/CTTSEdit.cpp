@@ -32,8 +32,7 @@ void CTTSEdit::Speak() {
 
 void CTTSEdit::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  // Back from its own context menu is not a new arrival.
-  if (event->reason() != Qt::PopupFocusReason) Speak();
+  if (voiced::isArrival(this, event)) Speak();
 }
 
 void CTTSEdit::keyPressEvent(QKeyEvent* event) {

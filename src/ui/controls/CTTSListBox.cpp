@@ -24,10 +24,14 @@ void CTTSListBox::SpeakItem(int row) {
 }
 
 void CTTSListBox::focusInEvent(QFocusEvent* event) {
-  QListWidget::focusInEvent(event);
-  if (count() == 0 || event->reason() == Qt::PopupFocusReason) return;
-  const int row = currentRow() < 0 ? 0 : currentRow();
+  // The view may pick a current item as the focus arrives; this says it once.
   m_selectingOnFocus = true;
+  QListWidget::focusInEvent(event);
+  if (count() == 0 || !voiced::isArrival(this, event)) {
+    m_selectingOnFocus = false;
+    return;
+  }
+  const int row = currentRow() < 0 ? 0 : currentRow();
   setCurrentRow(row);
   m_selectingOnFocus = false;
   SpeakItem(row);

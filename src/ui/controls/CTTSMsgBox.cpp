@@ -52,8 +52,13 @@ void CTTSMsgBox::prepare() {
   setAccessibleName(m_title);
 }
 
+void CTTSMsgBox::setVisible(bool visible) {
+  // Built before the box shows, so that its controls show with it.
+  if (visible) prepare();
+  QDialog::setVisible(visible);
+}
+
 void CTTSMsgBox::showEvent(QShowEvent* event) {
-  prepare();
   QDialog::showEvent(event);
   m_messageControl->setFocus(Qt::OtherFocusReason);
   QApplication::beep();

@@ -33,8 +33,10 @@ class CTTSMsgBox : public QDialog {
   CTTSStatic* messageControl() const { return m_messageControl; }
   QPushButton* okButton() const { return m_okButton; }
 
-  // Builds the box (title, message control, button, layout) as it opens.
+  // Builds the box (title, message control, button, layout); done as it opens.
   void prepare();
+
+  void setVisible(bool visible) override;
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -30,7 +30,7 @@ void CTTSSliderCtrl::Speak() {
 
 void CTTSSliderCtrl::focusInEvent(QFocusEvent* event) {
   QSlider::focusInEvent(event);
-  Speak();
+  if (voiced::isArrival(this, event)) Speak();
 }
 
 }  // namespace sonalyx::ui

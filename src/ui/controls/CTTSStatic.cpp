@@ -1,5 +1,6 @@
 #include "ui/controls/CTTSStatic.h"
 
+#include <QFocusEvent>
 #include <QPainter>
 
 #include "ui/app/CGraphCalcApp.h"
@@ -26,7 +27,7 @@ void CTTSStatic::Speak() {
 
 void CTTSStatic::focusInEvent(QFocusEvent* event) {
   QLabel::focusInEvent(event);
-  Speak();
+  if (voiced::isArrival(this, event)) Speak();
   update();
 }
 

@@ -30,7 +30,7 @@ void CTTSTabCtrl::setMinimumTabWidth(int width) {
 
 void CTTSTabCtrl::focusInEvent(QFocusEvent* event) {
   QTabBar::focusInEvent(event);
-  if (isVisible()) Speak();
+  if (isVisible() && voiced::isArrival(this, event)) Speak();
 }
 
 QSize CTTSTabCtrl::tabSizeHint(int index) const {

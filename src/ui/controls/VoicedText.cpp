@@ -1,5 +1,6 @@
 #include "ui/controls/VoicedText.h"
 
+#include <QFocusEvent>
 #include <QWidget>
 #include <string>
 
@@ -12,6 +13,11 @@ namespace sonalyx::ui::voiced {
 void say(QWidget* widget, const QString& text) {
   if (widget && widget->accessibleDescription() != text) widget->setAccessibleDescription(text);
   voice::Speak(text);
+}
+
+bool isArrival(const QWidget* widget, const QFocusEvent* event) {
+  return widget->isActiveWindow() && event->reason() != Qt::PopupFocusReason &&
+         event->reason() != Qt::MenuBarFocusReason;
 }
 
 QString expandSymbols(const QString& text) {

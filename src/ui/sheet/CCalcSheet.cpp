@@ -41,6 +41,11 @@ void CCalcSheet::SetActivePage(int index) {
   m_programChange = false;
 }
 
+void CCalcSheet::StepPage(int direction) {
+  if (count() == 0) return;
+  setCurrentIndex(((currentIndex() + direction) % count() + count()) % count());
+}
+
 void CCalcSheet::ReloadCurrentPage() {
   if (!m_currentPage) return;
   SetActivePage(indexOf(m_currentPage));

@@ -37,6 +37,9 @@ class CCalcSheet : public QTabWidget {
 
   // Brings a page to the front without speaking (the program's own change).
   void SetActivePage(int index);
+  // The user's move to the next (1) or previous (-1) tab, round the ends, as
+  // Ctrl+Tab and Ctrl+Shift+Tab do; it is announced.
+  void StepPage(int direction);
   // Lets the current page read its settings again.
   void ReloadCurrentPage();
   // Brings the Plot or Wave page forward and focuses one of its groups.

@@ -279,16 +279,22 @@ TEST(Program, HelpCommandsOpenTheirPagesBesideTheProgram) {
 }
 
 TEST(Program, TheAboutBoxShowsTheProductVersionAndLinks) {
-  ProgramUnderTest program;
+  ProgramUnderTest program([](const SettingsStore& store) { store.SetTtsOn(true); });
   ASSERT_TRUE(program.started());
   QStringList texts;
   QString web, mail;
   bool focusedOnProduct = false;
+  test::Heard heard;
+  std::vector<std::string> said;
   QTimer::singleShot(0, [&] {
     auto* about = qobject_cast<CAboutDlg*>(QApplication::activeModalWidget());
     ASSERT_NE(about, nullptr);
     QTest::qWait(20);
     focusedOnProduct = QApplication::focusWidget() == about->productLine();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    said = heard.take();
     for (const QLabel* label : about->findChildren<QLabel*>()) texts << label->text();
     web = about->webLink()->linkTarget();
     mail = about->mailLink()->linkTarget();
@@ -296,6 +302,9 @@ TEST(Program, TheAboutBoxShowsTheProductVersionAndLinks) {
   });
   program.commands().action(cmd::kAppAbout)->trigger();
   EXPECT_TRUE(focusedOnProduct);
+  // It speaks as it opens; Tab goes round its lines to the OK button.
+  EXPECT_EQ(said, (std::vector<std::string>{"Label. Sonalyx", "Label. with Sonitrace Technology",
+                                            "Label. Sonalyx", "Button. OK"}));
   EXPECT_TRUE(texts.contains("with Sonitrace Technology"));
   EXPECT_TRUE(texts.contains(QStringLiteral("Version ") + SONALYX_PRODUCT_VERSION));
   EXPECT_TRUE(
