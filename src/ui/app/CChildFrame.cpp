@@ -20,6 +20,7 @@
 #include "ui/app/FrameGeometry.h"
 #include "ui/app/HelpFiles.h"
 #include "ui/app/ProductInfo.h"
+#include "ui/app/ProgramIcon.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSTabCtrl.h"
 #include "ui/sheet/CCalcSheet.h"
@@ -49,6 +50,7 @@ CChildFrame::CChildFrame(CGraphCalcApp& app, CCommandTable& commands)
   setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint);
   setWindowTitle(QString::fromUtf8(product::kTitle));
+  setWindowIcon(programIcon());
   setAccessibleName(Translate(product::kTitle));
   setAttribute(Qt::WA_DeleteOnClose, false);
   // Only the program changes the size: the entries that would let the user do it go.

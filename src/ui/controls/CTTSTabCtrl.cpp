@@ -1,5 +1,6 @@
 #include "ui/controls/CTTSTabCtrl.h"
 
+#include <QAbstractButton>
 #include <QFocusEvent>
 
 #include "ui/app/CGraphCalcApp.h"
@@ -9,6 +10,8 @@ namespace sonalyx::ui {
 
 CTTSTabCtrl::CTTSTabCtrl(QWidget* parent) : QTabBar(parent) {
   setFocusPolicy(Qt::StrongFocus);
+  // The scroll arrows would be silent stops for Tab; the arrow keys turn the tabs.
+  for (QAbstractButton* arrow : findChildren<QAbstractButton*>()) arrow->setFocusPolicy(Qt::NoFocus);
   setAccessibleName(Translate("Control panel"));
 }
 

@@ -46,6 +46,8 @@ TEST(ProgramSpeech, SaysWhatTheKeyboardDoesInOrder) {
   } steps[] = {
       {"next tab", Qt::Key_Tab, Qt::ControlModifier, {"Data 1 screen."}},
       {"previous tab", Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier, {"Calculator screen."}},
+      {"into the page", Qt::Key_Tab, Qt::NoModifier, {"Label. Calculator"}},
+      {"back to the tabs", Qt::Key_Backtab, Qt::ShiftModifier, {"Calculator screen."}},
       {"tab to the left", Qt::Key_Left, Qt::NoModifier, {"Speech screen."}},
       {"into the menus", Qt::Key_F10, Qt::NoModifier, {"File"}},
       {"a grayed item", Qt::Key_Down, Qt::NoModifier, {"Open Data Set .... Grayed."}},
