@@ -80,7 +80,13 @@ CChildFrame::CChildFrame(CGraphCalcApp& app, CCommandTable& commands)
   for (int position = 0; position < 4; ++position)
     if (QMenu* popup = m_commands.popup(position))
       connect(popup, &QMenu::aboutToShow, this, &CChildFrame::UpdateCommandUI);
-  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &CChildFrame::UpdateCommandUI);
+  const auto readClipboard = [this] {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    m_clipboardHasText = data && data->hasText();
+    UpdateCommandUI();
+  };
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, readClipboard);
+  readClipboard();
 
   resizeOuter(frame::kInitialWidth, frame::kInitialHeight);
   recreateFonts();
@@ -143,10 +149,8 @@ bool CChildFrame::RuleAllows(int id) const {
     case cmd::kFileSave:
     case cmd::kCopyData:
       return selectedDataSet(sets, m_app.settings().GetSetType()).count() > 0;
-    case cmd::kPasteData: {
-      const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-      return data && data->hasText();
-    }
+    case cmd::kPasteData:
+      return m_clipboardHasText;
     case cmd::kLoadConstants:
     case cmd::kSaveConstants:
       return false;

@@ -78,6 +78,9 @@ class CChildFrame : public QMdiSubWindow {
   int m_widthStep;
   int m_heightStep;
   bool m_graphShown = false;
+  // Whether the clipboard holds text, kept as it changes: asking the clipboard at
+  // every key press could wait on another program.
+  bool m_clipboardHasText = false;
 };
 
 }  // namespace sonalyx::ui
