@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "RecordingBackend.h"
-#include "TempFolder.h"
 #include "core/settings/RegFileBackend.h"
 #include "support/NumericCompare.h"
+#include "support/TempFolder.h"
 
 namespace sonalyx {
 namespace {
