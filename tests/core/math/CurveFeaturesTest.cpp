@@ -118,31 +118,26 @@ TEST(CurveFeatures, PointsWithAnAbsentValueJoinNoSegment) {
 }
 
 TEST(CurveFeatures, TheFeatureListHoldsTurningPointsAndSteppedCrossings) {
-  std::vector<double> xs;
-  for (int i = 0; i <= 20; ++i) xs.push_back(0.5 * i);  // 0 to 10
-  DataSet wave = test::pointsAt(test::sample(xs, [](double x) { return std::sin(x); }));
-  const CurveFeatures features = listCurveFeatures(wave);
-
-  // sin rises from 0 (a minimum entry), peaks nearest 1.5 and 8.0, dips nearest 4.5,
-  // and falls into its last sample at 10.
-  const TurningPoint turning[] = {{Min, {0}}, {Max, {3}}, {Min, {9}}, {Max, {16}}, {Min, {20}}};
+  DataSet set = test::pointsAt({{0, 1}, {0.5, -1}, {1, -2}, {1.5, 1}, {2, 3}, {2.5, -1}, {3, 2}});
+  const CurveFeatures features = listCurveFeatures(set);
+  const TurningPoint turning[] = {{Min, {2, 1, -2}}, {Max, {4, 2, 3}}, {Min, {5, 2.5, -1}}};
   ASSERT_EQ(features.turningPoints.size(), std::size(turning));
   for (std::size_t k = 0; k < std::size(turning); ++k) {
     const TurningPoint& t = features.turningPoints[k];
     EXPECT_EQ(t.kind, turning[k].kind) << k;
     EXPECT_EQ(t.point.index, turning[k].point.index) << k;
-    EXPECT_TRUE(agreesTo(t.point.x, xs[static_cast<std::size_t>(t.point.index)], 15)) << k;
-    EXPECT_TRUE(agreesTo(t.point.y, std::sin(t.point.x), 15, 1e-15)) << k;
+    EXPECT_TRUE(agreesTo(t.point.x, turning[k].point.x, 17)) << k;
+    EXPECT_TRUE(agreesTo(t.point.y, turning[k].point.y, 17)) << k;
   }
-  // Zeros at pi (nearer 3.0), 2 pi (nearer 6.5) and 3 pi (nearer 9.5); the zero at
-  // x = 0 lies on the segment where the walk starts and is not reached.
-  const std::int32_t crossings[] = {6, 13, 19};
+  // Crossings near x 1.33 and 2.38; the one in the first segment lies where the walk
+  // starts and is not reached, and the last segment starts at the last find.
+  const FeaturePoint crossings[] = {{3, 1.5, 1}, {5, 2.5, -1}};
   ASSERT_EQ(features.axisCrossings.size(), std::size(crossings));
   for (std::size_t k = 0; k < std::size(crossings); ++k) {
     const FeaturePoint& p = features.axisCrossings[k];
-    EXPECT_EQ(p.index, crossings[k]) << k;
-    EXPECT_TRUE(agreesTo(p.x, xs[static_cast<std::size_t>(crossings[k])], 15)) << k;
-    EXPECT_TRUE(agreesTo(p.y, std::sin(p.x), 15, 1e-15)) << k;
+    EXPECT_EQ(p.index, crossings[k].index) << k;
+    EXPECT_TRUE(agreesTo(p.x, crossings[k].x, 17)) << k;
+    EXPECT_TRUE(agreesTo(p.y, crossings[k].y, 17)) << k;
   }
 }
 

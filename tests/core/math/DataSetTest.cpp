@@ -70,19 +70,35 @@ TEST(DataSet, TableEditingStoresAppendsOrRefuses) {
   }
 }
 
-TEST(DataSet, GridAccumulatesItsStep) {
+TEST(DataSet, GridAccumulatesItsStepOrRefusesAndKeepsTheSet) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const std::size_t most = std::numeric_limits<std::size_t>::max();
   const struct {
     double x0, x1;
     std::size_t n;
-  } cases[] = {{-10.0, 10.0, 501}, {0.1, 0.7, 7}, {3.0, 3.0, 4}};
+    bool made;
+  } cases[] = {
+      {-10.0, 10.0, 501, true},
+      {0.1, 0.7, 7, true},
+      {3.0, 3.0, 4, true},
+      {1.0, 0.0, 10, false},
+      {0.0, 1.0, 1, false},
+      {0.0, nan, 10, false},
+      {0.0, static_cast<double>(most), most, false},  // more points than memory
+  };
   for (const auto& c : cases) {
     SCOPED_TRACE(testing::Message() << c.x0 << ".." << c.x1 << " n=" << c.n);
-    DataSet s = curve({1.0, 2.0, 1.0});
+    DataSet s = curve({4.0, 5.0, 4.0});
     ASSERT_TRUE(s.findExtrema());
-    ASSERT_TRUE(s.makeGrid(c.x0, c.x1, c.n));
+    ASSERT_EQ(s.makeGrid(c.x0, c.x1, c.n), c.made);
+    EXPECT_EQ(s.extremaValid(), !c.made);
+    if (!c.made) {
+      ASSERT_EQ(s.count(), 3u);
+      EXPECT_TRUE(agreesTo(s.at(1).y, 5.0, 17));
+      continue;
+    }
     ASSERT_EQ(s.count(), c.n);
     EXPECT_TRUE(s.extrema().empty());
-    EXPECT_FALSE(s.extremaValid());
     const double step = (c.x1 - c.x0) / static_cast<double>(c.n - 1);
     double accumulated = c.x0;
     for (std::size_t i = 0; i < c.n; ++i, accumulated += step) {
@@ -91,51 +107,6 @@ TEST(DataSet, GridAccumulatesItsStep) {
       EXPECT_TRUE(agreesTo(s.at(i).y, 0.0, 17));
     }
     EXPECT_TRUE(agreesTo(s.getX(c.n - 1), c.x1, 12, 1e-12));
-  }
-}
-
-TEST(DataSet, GridRefusesBadBoundsAndKeepsTheSet) {
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  const std::size_t most = std::numeric_limits<std::size_t>::max();
-  const struct {
-    const char* name;
-    double x0, x1;
-    std::size_t n;
-  } cases[] = {
-      {"reversed bounds", 1.0, 0.0, 10},
-      {"one point", 0.0, 1.0, 1},
-      {"NaN end", 0.0, nan, 10},
-      {"more points than memory", 0.0, static_cast<double>(most), most},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    DataSet s = curve({4.0, 5.0, 4.0});
-    ASSERT_TRUE(s.findExtrema());
-    EXPECT_FALSE(s.makeGrid(c.x0, c.x1, c.n));
-    ASSERT_EQ(s.count(), 3u);
-    EXPECT_TRUE(agreesTo(s.at(1).y, 5.0, 17));
-    EXPECT_TRUE(s.extremaValid());
-  }
-}
-
-TEST(DataSet, RangesCoverEveryPoint) {
-  auto pt = [](double x, double y, double cx, double cy) { return DataPoint{x, y, 0, 0, 0, cx, cy}; };
-  const struct {
-    const char* name;
-    std::vector<DataPoint> points;
-    double xMin, xMax, yMin, yMax, cxMin, cxMax, cyMin, cyMax;
-  } cases[] = {
-      {"empty", {}, kAbsent, -kAbsent, kAbsent, -kAbsent, kAbsent, -kAbsent, kAbsent, -kAbsent},
-      {"unordered", {pt(3, 1, -1, 0), pt(-2, 8, 7, -9), pt(0.5, -4, 2, 6)}, -2, 3, -4, 8, -1, 7, -9, 6},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    DataSet s;
-    s.assign(c.points);
-    const auto x = s.rangeX(false), y = s.rangeY(false), cx = s.rangeX(true), cy = s.rangeY(true);
-    const double got[] = {x.first, x.second, y.first, y.second, cx.first, cx.second, cy.first, cy.second};
-    const double want[] = {c.xMin, c.xMax, c.yMin, c.yMax, c.cxMin, c.cxMax, c.cyMin, c.cyMax};
-    for (std::size_t k = 0; k < 8; ++k) EXPECT_TRUE(agreesTo(got[k], want[k], 17)) << k;
   }
 }
 
@@ -185,23 +156,14 @@ TEST(DataSet, CombinesByIndexOverAnEvenGrid) {
       EXPECT_TRUE(agreesTo(p.cartX, kAbsent, 17));
     }
   }
-}
-
-TEST(DataSet, CombineLeavesTheResultWhenSourcesDoNotMatch) {
-  const struct {
-    const char* name;
-    std::vector<double> a, b;
-  } cases[] = {
-      {"5 and 6 points", {1, 2, 3, 4, 5}, {1, 2, 3, 4, 5, 6}},
-      {"a empty", {}, {1}},
-      {"b without data", {1, 2}, {kAbsent, 2}},
-  };
-  for (const auto& c : cases) {
-    DataSet result = pointsAt({{9, 8}, {-1, -2}});
-    DataSet::combine(result, curve(c.a), curve(c.b), true);
-    ASSERT_EQ(result.count(), 2u) << c.name;
-    EXPECT_TRUE(agreesTo(result.at(0).x, 9.0, 17)) << c.name;
-    EXPECT_TRUE(agreesTo(result.at(1).y, -2.0, 17)) << c.name;
+  // Sources that differ in count or lack data leave the result alone.
+  const std::pair<DataSet, DataSet> mismatched[] = {
+      {curve({1, 2, 3}), curve({1, 2})}, {DataSet{}, curve({1})}, {curve({1, 2}), curve({kAbsent, 2})}};
+  for (const auto& [first, second] : mismatched) {
+    DataSet result = curve({7.0});
+    DataSet::combine(result, first, second, true);
+    ASSERT_EQ(result.count(), 1u);
+    EXPECT_TRUE(agreesTo(result.at(0).y, 7.0, 17));
   }
 }
 

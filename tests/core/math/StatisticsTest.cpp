@@ -50,30 +50,21 @@ TEST(Statistics, WritesTheSummaryLines) {
 }
 
 TEST(Statistics, NeedsTwoPointsWithData) {
-  DataSet withoutData = pointsAt({{1, kAbsent}, {2, 3}});
-  const DataSet sets[] = {DataSet{}, pointsAt({{1, 2}}), withoutData};
-  for (const auto& set : sets) {
+  for (const DataSet& set : {DataSet{}, pointsAt({{1, 2}}), pointsAt({{1, kAbsent}, {2, 3}})}) {
     EXPECT_TRUE(statisticsLines(set).empty()) << set.count() << " points";
-    const FitResult result = runFit(0, set);
-    EXPECT_FALSE(result.ran) << set.count() << " points";
-    EXPECT_TRUE(result.lines.empty()) << set.count() << " points";
   }
 }
 
 TEST(Statistics, TranslatesTheLabels) {
-  const auto translate = [](const std::string& english) { return "<" + english + ">"; };
-  const std::vector<std::string> lines = statisticsLines(pointsAt({{1, 2}, {3, 4}}), translate);
-  const std::vector<std::string> expected = {"<Number of points:> 2",
-                                             "",
-                                             "<Sum of x values:> 4",
-                                             "<Mean value of x:> 2",
-                                             "<x standard deviation:> 1.414213562",
-                                             "<Sample deviation:> 1",
-                                             "",
-                                             "<Sum of y values:> 6",
-                                             "<Mean value of y:> 3",
-                                             "<y standard deviation:> 1.414213562"};
-  EXPECT_EQ(lines, expected);
+  const DataSet set = pointsAt({{1, 2}, {3, 4}});
+  const auto english = statisticsLines(set);
+  const auto translated = statisticsLines(set, [](const std::string& text) { return "<" + text + ">"; });
+  ASSERT_EQ(translated.size(), english.size());
+  for (std::size_t i = 0; i < english.size(); ++i) {
+    const std::size_t blank = english[i].rfind(' ');
+    EXPECT_EQ(translated[i],
+              english[i].empty() ? "" : "<" + english[i].substr(0, blank) + ">" + english[i].substr(blank));
+  }
 }
 
 }  // namespace
