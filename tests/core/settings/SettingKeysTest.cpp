@@ -130,15 +130,31 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
     checkRow<std::string, std::string_view>(row, SettingType::Text, row.defaultText, "Ärlig \"test\"",
                                             "Ärlig \"test\"");
   }
-  // The values written at every start have setters only.
+  // The values written at every start have setters only, and write without reading.
   const SettingType integer = SettingType::Integer, text = SettingType::Text;
-  const std::pair<const char*, SettingType> versionKeys[] = {
-      {"Major", integer}, {"Minor", integer}, {"Rev", integer}, {"appName", text}, {"updateURL", text}};
-  for (const auto& [name, type] : versionKeys) {
-    const SettingKey* key = findSettingKey(name);
-    ASSERT_NE(key, nullptr) << name;
-    EXPECT_EQ(key->type, type) << name;
-    EXPECT_FALSE(key->hasDefault()) << name;
+  const struct {
+    const char* name;
+    SettingType type;
+    bool (*set)(const Store&);
+    RegistryValue stored;
+  } versionKeys[] = {
+      {"Major", integer, [](const Store& s) { return s.SetMajor(3); }, RegistryValue::fromDword(3)},
+      {"Minor", integer, [](const Store& s) { return s.SetMinor(0); }, RegistryValue::fromDword(0)},
+      {"Rev", integer, [](const Store& s) { return s.SetRev(15); }, RegistryValue::fromDword(15)},
+      {"appName", text, [](const Store& s) { return s.SetAppName("sonalyx"); },
+       RegistryValue::fromText("sonalyx")},
+      {"updateURL", text, [](const Store& s) { return s.SetUpdateURL("https://x.org/u"); },
+       RegistryValue::fromText("https://x.org/u")},
+  };
+  for (const auto& row : versionKeys) {
+    const SettingKey* key = findSettingKey(row.name);
+    ASSERT_NE(key, nullptr) << row.name;
+    EXPECT_EQ(key->type, row.type) << row.name;
+    EXPECT_FALSE(key->hasDefault()) << row.name;
+    auto backend = std::make_shared<test::RecordingBackend>();
+    EXPECT_TRUE(row.set(Store(backend))) << row.name;
+    EXPECT_EQ(backend->writes, (std::vector<NamedValue>{{row.name, row.stored}})) << row.name;
+    EXPECT_TRUE(backend->reads.empty()) << row.name;
   }
   EXPECT_EQ(allSettingKeys().size(), std::size(bools) + std::size(ints) + std::size(reals) +
                                          std::size(texts) + std::size(versionKeys));
@@ -159,25 +175,6 @@ TEST(SettingKeys, OnlyFxNumPtsHasAMinimumAndOnlyItsSetterKeepsIt) {
   auto backend = std::make_shared<test::RecordingBackend>();
   backend->values.push_back({"fxNumPts", RegistryValue::fromDword(0)});
   EXPECT_EQ(Store(backend).GetFxNumPts(), 0u);
-}
-
-TEST(SettingKeys, VersionSettersWriteTheirValues) {
-  auto backend = std::make_shared<test::RecordingBackend>();
-  const Store store(backend);
-  EXPECT_TRUE(store.SetMajor(3));
-  EXPECT_TRUE(store.SetMinor(0));
-  EXPECT_TRUE(store.SetRev(15));
-  EXPECT_TRUE(store.SetAppName("sonalyx"));
-  EXPECT_TRUE(store.SetUpdateURL("https://example.org/update.xml"));
-  const std::vector<NamedValue> expected = {
-      {"Major", RegistryValue::fromDword(3)},
-      {"Minor", RegistryValue::fromDword(0)},
-      {"Rev", RegistryValue::fromDword(15)},
-      {"appName", RegistryValue::fromText("sonalyx")},
-      {"updateURL", RegistryValue::fromText("https://example.org/update.xml")},
-  };
-  EXPECT_EQ(backend->writes, expected);
-  EXPECT_TRUE(backend->reads.empty());
 }
 
 TEST(SettingKeys, NamesAreFoundWithoutRegardToCase) {
