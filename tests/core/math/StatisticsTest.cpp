@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "core/math/FitText.h"
 #include "core/math/RegressionFit.h"
 #include "support/CurveData.h"
+#include "support/NumericCompare.h"
 
 namespace sonalyx {
 namespace {
@@ -46,6 +48,19 @@ TEST(Statistics, WritesTheSummaryLines) {
     EXPECT_TRUE(viaFit.ran) << c.what;
     EXPECT_EQ(viaFit.lines, c.expected) << c.what;
     EXPECT_TRUE(viaFit.coefficients.empty()) << c.what;
+  }
+}
+
+TEST(FitText, WritesAndKeepsMagnitudesBelow1e11AsZero) {
+  const double nan = std::nan("");
+  const struct {
+    double value;
+    const char* line;
+    double kept;
+  } cases[] = {{1e-11, "a: 1e-011", 1e-11}, {-9.9e-12, "a: 0", 0.0}, {nan, "a: Error", nan}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(FitText::coefficientLine('a', c.value), c.line) << c.value;
+    EXPECT_TRUE(test::agreesTo(FitText::zeroed(c.value), c.kept, 17)) << c.value;
   }
 }
 
