@@ -21,6 +21,8 @@ TEST(SegmentIntersection, FindsWhereClosedSegmentsMeet) {
   } cases[] = {
       {"crossing the x axis", {{1, 3}, {2, -1}}, {{1, 0}, {2, 0}}, PlanePoint{1.75, 0}},
       {"an end on the other's middle", {{0, 0}, {2, 2}}, {{2, 0}, {2, 4}}, PlanePoint{2, 2}},
+      // -0.3 is a rounding error off the first segment: it still touches.
+      {"an end on the other by rounding", {{0, 0}, {3, -0.9}}, {{1, -0.3}, {0.6, 1.3}}, PlanePoint{1, -0.3}},
       {"one end in common", {{0, 0}, {1, 1}}, {{1, 1}, {3, 0}}, PlanePoint{1, 1}},
       {"missing beyond an end", {{0, 0}, {1, 1}}, {{3, 0}, {0, 3.1}}, std::nullopt},
       {"parallel apart", {{0, 0}, {4, 0}}, {{0, 1}, {4, 1}}, std::nullopt},
