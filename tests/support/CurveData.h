@@ -8,8 +8,11 @@
 
 namespace sonalyx::test {
 
+// (x, y) pairs, written {{x, y}, ...}.
+using Points = std::vector<std::vector<double>>;
+
 // A set of points with the given x and y, every other field unset.
-inline DataSet pointsAt(const std::vector<std::vector<double>>& xy) {
+inline DataSet pointsAt(const Points& xy) {
   std::vector<DataPoint> points;
   for (const auto& p : xy) {
     DataPoint d;
@@ -24,9 +27,17 @@ inline DataSet pointsAt(const std::vector<std::vector<double>>& xy) {
 
 // A curve through the given y values at x = 0, 1, 2, ...
 inline DataSet curve(const std::vector<double>& ys) {
-  std::vector<std::vector<double>> xy;
+  Points xy;
   for (std::size_t i = 0; i < ys.size(); ++i) xy.push_back({static_cast<double>(i), ys[i]});
   return pointsAt(xy);
+}
+
+// Points (x, f(x)) for each x.
+template <typename F>
+Points sample(const std::vector<double>& xs, F f) {
+  Points points;
+  for (double x : xs) points.push_back({x, f(x)});
+  return points;
 }
 
 inline GraphRange rangeOf(double left, double right, double bottom, double top) {

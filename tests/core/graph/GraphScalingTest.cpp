@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 #include "core/graph/GraphTicks.h"
@@ -36,7 +37,6 @@ TEST(GraphScaling, AutoScaledAxesFollowTheDataWithAMargin) {
   } cases[] = {
       {"no auto scale: the settings", settings, false, false, &ramp, settings},
       {"x auto: 5 % of 4 either side", settings, true, false, &ramp, rangeOf(-0.2, 4.2, -10, 10)},
-      {"y auto: 5 % of 2 either side", settings, false, true, &ramp, rangeOf(-10, 10, -1.1, 1.1)},
       {"both auto", settings, true, true, &ramp, rangeOf(-0.2, 4.2, -1.1, 1.1)},
       {"all values alike: 1 either side", settings, true, true, &flat, rangeOf(1, 3, 4, 6)},
       {"equal settings widen too", rangeOf(5, 5, -2, -2), false, false, &ramp, rangeOf(4, 6, -3, -1)},
@@ -63,20 +63,30 @@ TEST(GraphScaling, APolarSetIsScaledByItsCartesianPoints) {
 TEST(GraphScaling, TheLabelFactorRangeFollowsTheXAutoScaleFlag) {
   const GraphRange settings = rangeOf(-10, 10, -10, 10);
   const DataSet tall = test::pointsAt({{0, 0}, {1, 50000}});
-  const struct {
-    const char* what;
-    bool autoX;
-    double expected;
-  } cases[] = {
-      {"x not auto-scaled: the settings' y range", false, yLabelFactor(-10, 10)},
-      {"x auto-scaled: the data's y extent", true, yLabelFactor(0, 50000)},
-  };
-  for (const auto& c : cases) {
-    EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, c.autoX, tall, false), c.expected, 14)) << c.what;
-  }
-  // And its value, so the two rows above cannot agree by accident.
+  // Not auto-scaled: the settings' y range -10..10; auto-scaled: the data's 0..50000.
+  EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, false, tall, false), 1.0, 14));
   EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, true, tall, false), 1e-4, 14));
   EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, true, DataSet{}, false), 1.0, 14));
+}
+
+TEST(GraphRange, EverySetterNormalisesButAComparisonWithNaNSwapsNothing) {
+  const double nan = std::nan("");
+  const struct {
+    const char* what;
+    void (*change)(GraphRange&);
+    GraphRange expected;
+  } cases[] = {
+      {"all four", [](GraphRange& r) { r.set(std::nan(""), 5, 7, -5); }, {nan, -5, 7, 5}},
+      {"x only", [](GraphRange& r) { r.setX(4, 1); }, {0, 1, 0, 4}},
+      {"y only", [](GraphRange& r) { r.setY(6, -6); }, {6, 0, -6, 0}},
+      {"NaN left", [](GraphRange& r) { r.setX(std::nan(""), -3); }, {0, nan, 0, -3}},
+      {"NaN top", [](GraphRange& r) { r.setY(3, std::nan("")); }, {nan, 0, 3, 0}},
+  };
+  for (const auto& c : cases) {
+    GraphRange range;
+    c.change(range);
+    expectRange(range, c.expected, c.what);
+  }
 }
 
 }  // namespace

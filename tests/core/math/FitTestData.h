@@ -1,33 +1,28 @@
 #pragma once
 
-#include <utility>
+#include <cstddef>
+#include <string>
 #include <vector>
 
-#include "core/math/DataSet.h"
+#include "core/math/FitModel.h"
+#include "support/CurveData.h"
 
 namespace sonalyx::test {
 
-using Points = std::vector<std::pair<double, double>>;
-
-inline DataSet makeSet(const Points& xy) {
-  std::vector<DataPoint> points;
-  for (const auto& [x, y] : xy) {
-    DataPoint p;
-    p.x = x;
-    p.y = y;
-    points.push_back(p);
-  }
-  DataSet set;
-  set.assign(std::move(points));
-  return set;
+// A fit's result lines: the heading for `count` points, then `rest`.
+inline std::vector<std::string> fitLines(int model, std::size_t count,
+                                         const std::vector<std::string>& rest = {}) {
+  std::vector<std::string> lines = {"Number of points: " + std::to_string(count), "",
+                                    "Regression analysis:", std::string(fitModelTitle(model)), ""};
+  lines.insert(lines.end(), rest.begin(), rest.end());
+  return lines;
 }
 
-// Points (x, f(x)) for each x.
-template <typename F>
-Points sample(const std::vector<double>& xs, F f) {
-  Points points;
-  for (double x : xs) points.emplace_back(x, f(x));
-  return points;
+// from, from + step, ... up to `to`.
+inline std::vector<double> range(double from, double to, double step) {
+  std::vector<double> xs;
+  for (int i = 0; from + i * step <= to + step * 1e-9; ++i) xs.push_back(from + i * step);
+  return xs;
 }
 
 }  // namespace sonalyx::test

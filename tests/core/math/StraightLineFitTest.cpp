@@ -15,132 +15,84 @@ namespace sonalyx {
 namespace {
 
 using test::agreesTo;
-using test::makeSet;
+using test::fitLines;
 using test::Points;
+using test::pointsAt;
 using test::sample;
 
-std::vector<std::string> withHeader(int model, std::size_t count, const std::vector<std::string>& rest) {
-  std::vector<std::string> lines = {"Number of points: " + std::to_string(count), "",
-                                    "Regression analysis:", std::string(fitModelTitle(model)), ""};
-  lines.insert(lines.end(), rest.begin(), rest.end());
-  return lines;
-}
-
-struct ModelCase {
-  int model;
-  Points points;
-  std::size_t count;  // points shown as used
-  std::vector<std::string> values;
-  std::vector<double> coefficients;
-};
-
 TEST(StraightLineModels, RecoverTheCoefficientsTheDataWereMadeFrom) {
-  const ModelCase cases[] = {
+  const struct {
+    int model;
+    std::vector<double> xs;
+    double (*f)(double);
+    std::vector<std::string> values;
+  } cases[] = {
       // The linear model leaves its last point out, however far off it lies.
-      {kLinear, {{1, 5}, {2, 8}, {3, 11}, {4, 14}, {5, 17}, {6, 100}}, 5, {"r: 1", "a: 2", "b: 3"}, {2, 3}},
-      {kLinear, {{1, 1}, {2, 2}, {3, 3}, {4, 10}}, 3, {"r: 1", "a: 0", "b: 1"}, {0, 1}},
-      {kLinear, {{-1, 1}, {0, 0}, {1, 1}, {5, 5}}, 3, {"r: 0", "a: 0.6666666667", "b: 0"}, {2.0 / 3.0, 0}},
+      {kLinear,
+       {1, 2, 3, 4, 5, 6},
+       [](double x) { return x < 6 ? 2 + 3 * x : 100; },
+       {"r: 1", "a: 2", "b: 3"}},
+      {kLinear, {-1, 0, 1, 5}, [](double x) { return std::fabs(x); }, {"r: 0", "a: 0.6666666667", "b: 0"}},
+      // Values below 1e-11 are written and kept as 0.
+      {kLinear, {1, 2, 3, 4, 5, 6}, [](double x) { return -8e-12 + 2 * x; }, {"r: 1", "a: 0", "b: 2"}},
       {kExponential,
-       sample({0, 1, 2, 3, 4}, [](double x) { return 1.5 * std::pow(2.0, x); }),
-       5,
-       {"r: 1", "a: 1.5", "b: 2"},
-       {1.5, 2}},
-      {kExponential,
-       sample({-2, 0.5, 3}, [](double x) { return 40.0 * std::pow(0.25, x); }),
-       3,
-       {"r: -1", "a: 40", "b: 0.25"},
-       {40, 0.25}},
-      {kLogarithmic,
-       sample({1, 2, 4, 8}, [](double x) { return 4.0 - 2.0 * std::log(x); }),
-       4,
-       {"r: -1", "a: 4", "b: -2"},
-       {4, -2}},
-      {kPower,
-       sample({1, 4, 9, 16}, [](double x) { return 3.0 * std::sqrt(x); }),
-       4,
-       {"r: 1", "a: 3", "b: 0.5"},
-       {3, 0.5}},
-      {kHyperbolic,
-       sample({1, 2, 3, 6}, [](double x) { return 1.0 + 6.0 / x; }),
-       4,
-       {"r: 1", "a: 1", "b: 6"},
-       {1, 6}},
-      {kHyperbolic,
-       sample({-4, -1, 2, 8}, [](double x) { return -2.5 - 0.5 / x; }),
-       4,
-       {"r: -1", "a: -2.5", "b: -0.5"},
-       {-2.5, -0.5}},
-      {kRational,
-       sample({1, 2, 4, 10}, [](double x) { return 12.0 / (2.0 + x); }),
-       4,
-       {"r: -1", "a: 12", "b: 2"},
-       {12, 2}},
-      {kRationalX,
-       sample({1, 3, 6, 9}, [](double x) { return 5.0 * x / (3.0 + x); }),
-       4,
-       {"r: -1", "a: 5", "b: 3"},
-       {5, 3}},
+       {-2, 0.5, 3},
+       [](double x) { return 40 * std::pow(0.25, x); },
+       {"r: -1", "a: 40", "b: 0.25"}},
+      {kLogarithmic, {1, 2, 4, 8}, [](double x) { return 4 - 2 * std::log(x); }, {"r: -1", "a: 4", "b: -2"}},
+      {kPower, {1, 4, 9, 16}, [](double x) { return 3 * std::sqrt(x); }, {"r: 1", "a: 3", "b: 0.5"}},
+      {kHyperbolic, {-4, -1, 2, 8}, [](double x) { return -2.5 - 0.5 / x; }, {"r: -1", "a: -2.5", "b: -0.5"}},
+      {kRational, {1, 2, 4, 10}, [](double x) { return 12 / (2 + x); }, {"r: -1", "a: 12", "b: 2"}},
+      {kRationalX, {1, 3, 6, 9}, [](double x) { return 5 * x / (3 + x); }, {"r: -1", "a: 5", "b: 3"}},
   };
   for (const auto& c : cases) {
-    const FitResult result = runFit(c.model, makeSet(c.points));
-    const std::string what = std::string(fitModelName(c.model)) + " of " + std::to_string(c.points.size());
+    const FitResult result = runFit(c.model, pointsAt(sample(c.xs, c.f)));
+    const std::string what = std::string(fitModelName(c.model)) + " of " + std::to_string(c.xs.size());
     EXPECT_TRUE(result.ran) << what;
-    EXPECT_EQ(result.lines, withHeader(c.model, c.count, c.values)) << what;
-    ASSERT_EQ(result.coefficients.size(), c.coefficients.size()) << what;
-    for (std::size_t i = 0; i < c.coefficients.size(); ++i) {
-      EXPECT_TRUE(agreesTo(result.coefficients[i], c.coefficients[i], 12, 1e-13)) << what << " #" << i;
+    const std::size_t used = c.model == kLinear ? c.xs.size() - 1 : c.xs.size();
+    EXPECT_EQ(result.lines, fitLines(c.model, used, c.values)) << what;
+    ASSERT_EQ(result.coefficients.size(), 2u) << what;
+    for (std::size_t i = 0; i < 2; ++i) {
+      EXPECT_TRUE(agreesTo(result.coefficients[i], std::stod(c.values[i + 1].substr(3)), 10, 1e-13)) << what;
     }
   }
 }
 
-struct InvalidCase {
-  int model;
-  Points points;
-  const char* message;
-};
-
-TEST(StraightLineModels, RejectPointsOutsideTheModelsDomain) {
+TEST(StraightLineModels, RefusePointsOutsideTheModelsDomain) {
   const char* positiveY = "Invalid data set.  Y values must be > 0.";
   const char* positiveX = "Invalid data set.  X values must be > 0.";
   const char* positiveXY = "Invalid data set.  X and Y values must be > 0.";
   const char* nonzeroX = "Invalid data set.  X values cannot = 0.";
-  const InvalidCase cases[] = {
+  const struct {
+    int model;
+    Points points;
+    const char* message;  // none: fitted
+  } cases[] = {
       {kExponential, {{1, 1}, {2, 0}, {3, 4}}, positiveY},
-      {kExponential, {{1, 1}, {2, 2}, {3, -4}}, positiveY},
       {kExponential, {{1, 1}, {2, std::nan("")}, {3, 4}}, positiveY},
       {kLogarithmic, {{0, 1}, {2, 2}, {3, 4}}, positiveX},
-      {kLogarithmic, {{1, 1}, {-2, 2}}, positiveX},
-      {kPower, {{1, 1}, {2, 0}, {3, 4}}, positiveXY},
       {kPower, {{-1, 1}, {2, 2}, {3, 4}}, positiveXY},
-      {kHyperbolic, {{1, 1}, {0, 2}, {3, 4}}, nonzeroX},
       {kHyperbolic, {{1, 1}, {-0.0, 2}}, nonzeroX},
-      // The rational ax/(b + x) already refuses x that are merely tiny.
+      // The hyperbolic model refuses only an x of exactly 0 ...
+      {kHyperbolic, {{1, 1}, {1e-12, 2}, {3, 4}}, nullptr},
+      // ... the rational ax/(b + x) any x closer to 0 than 1e-11.
       {kRationalX, {{1, 1}, {1e-12, 2}, {3, 4}}, nonzeroX},
       {kRationalX, {{1, 1}, {-9.9e-12, 2}, {3, 4}}, nonzeroX},
-      {kRationalX, {{0, 1}, {2, 2}}, nonzeroX},
+      {kRationalX, {{1, 1}, {-1e-11, 2}, {3, 4}}, nullptr},
+      {kRational, {{0, 1}, {2, -2}, {3, 4}}, nullptr},
   };
   for (const auto& c : cases) {
-    const FitResult result = runFit(c.model, makeSet(c.points));
-    const std::string what = std::string(fitModelName(c.model)) + " " + c.message;
+    const FitResult result = runFit(c.model, pointsAt(c.points));
+    const std::string what = std::string(fitModelName(c.model)) + " at x " + std::to_string(c.points[1][0]);
     EXPECT_TRUE(result.ran) << what;
-    EXPECT_EQ(result.lines, withHeader(c.model, c.points.size(), {c.message})) << what;
-    EXPECT_TRUE(result.coefficients.empty()) << what;
-  }
-}
-
-TEST(StraightLineModels, AcceptPointsAtTheEdgeOfTheDomain) {
-  const std::pair<int, Points> cases[] = {
-      // The hyperbolic model refuses only an x of exactly 0.
-      {kHyperbolic, {{1, 1}, {1e-12, 2}, {3, 4}}},
-      {kRationalX, {{1, 1}, {1e-11, 2}, {3, 4}}},
-      {kRationalX, {{1, 1}, {-1e-11, 2}, {3, 4}}},
-      {kRational, {{0, 1}, {2, -2}, {3, 4}}},
-  };
-  for (const auto& [model, points] : cases) {
-    const FitResult result = runFit(model, makeSet(points));
-    ASSERT_EQ(result.lines.size(), 8u) << fitModelName(model);
-    EXPECT_EQ(result.lines[5].substr(0, 3), "r: ") << fitModelName(model);
-    EXPECT_EQ(result.coefficients.size(), 2u) << fitModelName(model);
+    if (c.message != nullptr) {
+      EXPECT_EQ(result.lines, fitLines(c.model, c.points.size(), {c.message})) << what;
+      EXPECT_TRUE(result.coefficients.empty()) << what;
+    } else {
+      ASSERT_EQ(result.lines.size(), 8u) << what;
+      EXPECT_EQ(result.lines[5].substr(0, 3), "r: ") << what;
+      EXPECT_EQ(result.coefficients.size(), 2u) << what;
+    }
   }
 }
 
@@ -155,75 +107,47 @@ TEST(StraightLineModels, WithoutSpreadInXOrYEverythingIsZero) {
       {kLinear, {{1, 1}, {2, std::nan("")}, {3, 3}, {4, 4}}},
       // Not e^0 = 1: the back-transformation is skipped.
       {kExponential, {{2, 1}, {2, 3}, {2, 5}}},
-      {kLogarithmic, {{3, 1}, {3, 2}, {3, 4}}},
-      {kPower, {{3, 1}, {3, 2}, {3, 4}}},
-      {kHyperbolic, {{4, 1}, {4, 2}, {4, 3}}},
-      {kRational, {{1, 6}, {2, 3}, {3, 2}, {6, 1}}},  // x·y is always 6
+      {kRational, {{1, 6}, {2, 3}, {3, 2}, {6, 1}}},  // x*y is always 6
       {kRationalX, {{1, 2}, {2, 4}, {3, 6}}},         // y/x is always 2
   };
   for (const auto& [model, points] : cases) {
-    const FitResult result = runFit(model, makeSet(points));
+    const FitResult result = runFit(model, pointsAt(points));
     const std::size_t used = model == kLinear ? points.size() - 1 : points.size();
-    EXPECT_EQ(result.lines, withHeader(model, used, {"r: 0", "a: 0", "b: 0"})) << fitModelName(model);
+    EXPECT_EQ(result.lines, fitLines(model, used, {"r: 0", "a: 0", "b: 0"})) << fitModelName(model);
     ASSERT_EQ(result.coefficients.size(), 2u) << fitModelName(model);
     EXPECT_TRUE(agreesTo(result.coefficients[0], 0.0, 15)) << fitModelName(model);
     EXPECT_TRUE(agreesTo(result.coefficients[1], 0.0, 15)) << fitModelName(model);
   }
-}
-
-TEST(StraightLineModels, SpreadJustAboveTheFloorIsFitted) {
-  // Squared deviations of 1.25e-11: the slope is the rise over 5e-6.
-  const FitResult result = runFit(kLinear, makeSet({{1, 1}, {1 + 5e-6, 2}, {9, 9}}));
+  // Squared deviations of 1.25e-11, just above the floor: the slope is the rise over 5e-6.
+  const FitResult result = runFit(kLinear, pointsAt({{1, 1}, {1 + 5e-6, 2}, {9, 9}}));
   ASSERT_EQ(result.coefficients.size(), 2u);
   EXPECT_TRUE(agreesTo(result.coefficients[1], 1.0 / 5e-6, 6));
 }
 
-TEST(StraightLineModels, ValuesBelow1e11AreWrittenAndKeptAsZero) {
-  struct Case {
-    double intercept;
-    const char* line;
-    double kept;
-  };
-  const Case cases[] = {
-      {3e-12, "a: 0", 0.0},
-      {-8e-12, "a: 0", 0.0},
-      // The straight-line models know no 1e-9 rule.
-      {5e-10, "a: 5e-010", 5e-10},
-  };
-  for (const auto& c : cases) {
-    const Points points = sample({1, 2, 3, 4, 5}, [&](double x) { return c.intercept + 2.0 * x; });
-    const FitResult result = runFit(kLinear, makeSet(points));
-    ASSERT_EQ(result.lines.size(), 8u);
-    ASSERT_EQ(result.coefficients.size(), 2u);
-    if (c.kept == 0.0) {
-      EXPECT_EQ(result.lines[6], c.line);
-      EXPECT_TRUE(agreesTo(result.coefficients[0], 0.0, 15));
-    } else {
-      // Rounding in the data leaves the last digits of a tiny intercept uncertain.
-      EXPECT_EQ(result.lines[6].substr(0, 4), "a: 5") << result.lines[6];
-      EXPECT_NE(result.lines[6].find("e-010"), std::string::npos) << result.lines[6];
-      EXPECT_TRUE(agreesTo(result.coefficients[0], c.kept, 4));
-    }
-  }
+TEST(StraightLineModels, KnowNoPolynomialZeroRule) {
+  // Below 1e-9 but above 1e-11: kept. Rounding in the data leaves the last digits uncertain.
+  const FitResult kept =
+      runFit(kLinear, pointsAt(sample({1, 2, 3, 4, 5}, [](double x) { return 5e-10 + 2 * x; })));
+  ASSERT_EQ(kept.lines.size(), 8u);
+  EXPECT_EQ(kept.lines[6].substr(0, 4), "a: 5") << kept.lines[6];
+  EXPECT_NE(kept.lines[6].find("e-010"), std::string::npos) << kept.lines[6];
+  EXPECT_TRUE(agreesTo(kept.coefficients.at(0), 5e-10, 4));
 }
 
 TEST(StraightLineCore, GivesLineAndCorrelation) {
-  struct Case {
+  const struct {
     Points points;
-    double intercept;
-    double slope;
-    double r;
-  };
-  // y = x + (1, −1, −1, 1): the deviations are orthogonal to 1 and x, so the line
-  // is y = x exactly; r = SSxy/√(SSxx·SSyy) = 10/√(10·14).
-  const Case cases[] = {
+    double intercept, slope, r;
+  } cases[] = {
+      // y = x + (1, -1, -1, 1): the deviations are orthogonal to 1 and x, so the line
+      // is y = x exactly; r = SSxy/sqrt(SSxx*SSyy) = 10/sqrt(10*14).
       {{{-2, -1}, {-1, -2}, {1, 0}, {2, 3}}, 0.0, 1.0, 10.0 / std::sqrt(10.0 * 14.0)},
       // Far from 0 the sums about the first pair keep every digit.
       {{{1e8 + 1, 3}, {1e8 + 2, 5}, {1e8 + 3, 7}}, 1.0 - 2e8, 2.0, 1.0},
   };
   for (const auto& c : cases) {
     StraightLineFit fit;
-    for (const auto& [x, y] : c.points) fit.add(x, y);
+    for (const auto& p : c.points) fit.add(p[0], p[1]);
     const StraightLineFit::Line line = fit.line();
     EXPECT_TRUE(line.determined);
     EXPECT_TRUE(agreesTo(line.intercept, c.intercept, 12, 1e-12));
@@ -233,19 +157,16 @@ TEST(StraightLineCore, GivesLineAndCorrelation) {
 }
 
 TEST(FitEntry, RunsNothingWithoutTwoPointsOrForUnknownModels) {
-  const DataSet noData = makeSet({{1, kAbsent}, {2, 2}, {3, 3}});
-  const DataSet sets[] = {DataSet{}, makeSet({{1, 1}}), noData};
-  for (int model : {0, 1, 2, 5, 11, 12}) {
+  const DataSet sets[] = {DataSet{}, pointsAt({{1, 1}}), pointsAt({{1, kAbsent}, {2, 2}, {3, 3}})};
+  for (int model : {0, 1, 12}) {
     for (const DataSet& set : sets) {
       const FitResult result = runFit(model, set);
       EXPECT_FALSE(result.ran) << model << " with " << set.count() << " points";
       EXPECT_TRUE(result.lines.empty()) << model;
-      EXPECT_TRUE(result.coefficients.empty()) << model;
     }
   }
-  const DataSet good = makeSet({{1, 1}, {2, 2}, {3, 3}});
-  for (int model : {-1, 13, 100}) {
-    const FitResult result = runFit(model, good);
+  for (int model : {-1, 13}) {
+    const FitResult result = runFit(model, pointsAt({{1, 1}, {2, 2}, {3, 3}}));
     EXPECT_TRUE(result.ran) << model;
     EXPECT_TRUE(result.lines.empty()) << model;
     EXPECT_TRUE(result.coefficients.empty()) << model;
@@ -254,31 +175,26 @@ TEST(FitEntry, RunsNothingWithoutTwoPointsOrForUnknownModels) {
 
 TEST(FitEntry, TranslatesTheFixedTextsButNotTheValueLabels) {
   const auto translate = [](const std::string& english) { return "<" + english + ">"; };
-  const Points points = sample({1, 2, 3}, [](double x) { return 2.0 * x; });
-  const FitResult fitted = runFit(kHyperbolic, makeSet(points), 0.0, translate);
+  const FitResult fitted = runFit(kHyperbolic, pointsAt({{1, 2}, {2, 4}, {3, 6}}), 0.0, translate);
   ASSERT_GE(fitted.lines.size(), 6u);
   EXPECT_EQ(fitted.lines[0], "<Number of points:> 3");
   EXPECT_EQ(fitted.lines[2], "<Regression analysis:>");
   EXPECT_EQ(fitted.lines[3], "<Hyperbolic: y = a + b/x>");
   EXPECT_EQ(fitted.lines[5].substr(0, 3), "r: ");
 
-  const FitResult refused = runFit(kPower, makeSet({{1, 1}, {2, -1}}), 0.0, translate);
+  const FitResult refused = runFit(kPower, pointsAt({{1, 1}, {2, -1}}), 0.0, translate);
   ASSERT_EQ(refused.lines.size(), 6u);
   EXPECT_EQ(refused.lines[5], "<Invalid data set.  X and Y values must be > 0.>");
 
-  const FitResult failed = runFit(kLogistic, makeSet({{0, 1}, {1, std::nan("")}}), 0.0, translate);
+  const FitResult failed = runFit(kLogistic, pointsAt({{0, 1}, {1, std::nan("")}}), 0.0, translate);
   EXPECT_EQ(failed.lines, std::vector<std::string>{"<Invalid data set for logistic fit.>"});
 }
 
 TEST(FitModelNames, NameAndNumberGoBothWays) {
   for (int model = 0; model < kFitModelCount; ++model) {
-    const std::string_view name = fitModelName(model);
-    ASSERT_FALSE(name.empty()) << model;
-    EXPECT_EQ(fitModelFromName(name), model) << name;
-    EXPECT_FALSE(fitModelTitle(model).empty()) << model;
+    EXPECT_EQ(fitModelFromName(fitModelName(model)), model) << model;
   }
   EXPECT_EQ(fitModelFromName("Rational-X"), kRationalX);
-  EXPECT_EQ(fitModelFromName("stats"), kStatistics);
   EXPECT_FALSE(fitModelFromName("sine").has_value());
   EXPECT_TRUE(fitModelName(13).empty());
   EXPECT_TRUE(fitModelTitle(-1).empty());

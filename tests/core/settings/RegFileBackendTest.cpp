@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "TempFolder.h"
+#include "support/TempFolder.h"
 
 namespace sonalyx {
 namespace {
@@ -74,16 +74,12 @@ TEST(RegFileBackend, ADamagedFileIsCopiedOnceBeforeItIsFirstWrittenOver) {
   EXPECT_TRUE(backend.writeValue("rate", RegistryValue::fromDword(1)));
   EXPECT_EQ(test::readBytes(bad), damaged);
   EXPECT_EQ(test::readBytes(file), damagedAgain + "\"rate\"=dword:00000001\n");
-}
 
-TEST(RegFileBackend, AHealthyFileIsNeverCopied) {
-  test::TempFolder folder;
-  const fs::path file = folder / "Settings.reg";
-  test::writeBytes(file, "\xFF\xFE");  // an empty UTF-16LE file
-  RegFileBackend backend(file);
-  EXPECT_TRUE(backend.writeValue("a", RegistryValue::fromDword(1)));
-  EXPECT_TRUE(backend.deleteKey());
-  EXPECT_FALSE(fs::exists(folder / "Settings.reg.bad"));
+  // A healthy file is never copied, even an empty UTF-16LE one.
+  const fs::path healthy = folder / "Healthy.reg";
+  test::writeBytes(healthy, "\xFF\xFE");
+  EXPECT_TRUE(RegFileBackend(healthy).writeValue("a", RegistryValue::fromDword(1)));
+  EXPECT_FALSE(fs::exists(folder / "Healthy.reg.bad"));
 }
 
 TEST(RegFileBackend, WhatCannotBeReadOrMadeIsNotWritten) {

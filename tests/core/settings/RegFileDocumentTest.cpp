@@ -48,7 +48,6 @@ TEST(RegFileDocument, EveryValueTypeIsWrittenInTheExportFormatAndReadBack) {
   const RoundTripCase cases[] = {
       {"text", "voice", RegistryValue::fromText("Sam"), "\"voice\"=\"Sam\""},
       {"escapes", "expr1", RegistryValue::fromText("a\\b\"c"), "\"expr1\"=\"a\\\\b\\\"c\""},
-      {"empty text", "expr2", RegistryValue::fromText(""), "\"expr2\"=\"\""},
       {"non-ASCII text", "voice", RegistryValue::fromText("\xC3\x84rlig"), "\"voice\"=\"\xC3\x84rlig\""},
       {"escaped name", "we\"ird\\name", RegistryValue::fromText("x"), "\"we\\\"ird\\\\name\"=\"x\""},
       {"default value", "", RegistryValue::fromText("x"), "@=\"x\""},
@@ -56,20 +55,15 @@ TEST(RegFileDocument, EveryValueTypeIsWrittenInTheExportFormatAndReadBack) {
       {"line break in text", "v", RegistryValue::fromText("a\nb"),
        "\"v\"=hex(1):61,00,0a,00,62,00,00,00,00,00"},
       {"single terminator", "v", raw(kRegSz, {'a', 0, 0, 0}), "\"v\"=hex(1):61,00,00,00"},
-      {"no terminator", "v", raw(kRegSz, {'a', 0}), "\"v\"=hex(1):61,00"},
       {"dword", "rate", RegistryValue::fromDword(10), "\"rate\"=dword:0000000a"},
-      {"dword max", "rate", RegistryValue::fromDword(0xFFFFFFFF), "\"rate\"=dword:ffffffff"},
       {"short dword", "rate", raw(kRegDword, {1, 0}), "\"rate\"=hex(4):01,00"},
       {"big-endian dword", "v", raw(kRegDwordBigEndian, {0, 0, 0, 10}), "\"v\"=hex(5):00,00,00,0a"},
       {"expand string", "v", RegistryValue::fromText("%A%", kRegExpandSz),
        "\"v\"=hex(2):25,00,41,00,25,00,00,00,00,00"},
-      {"link", "v", RegistryValue::fromText("L", kRegLink), "\"v\"=hex(6):4c,00,00,00,00,00"},
       {"multi-string", "v", raw(kRegMultiSz, {'a', 0, 0, 0, 'b', 0, 0, 0, 0, 0}),
        "\"v\"=hex(7):61,00,00,00,62,00,00,00,00,00"},
       {"binary", "v", raw(kRegBinary, {0x01, 0xFF}), "\"v\"=hex:01,ff"},
       {"empty binary", "v", raw(kRegBinary, {}), "\"v\"=hex:"},
-      {"none", "v", raw(kRegNone, {7}), "\"v\"=hex(0):07"},
-      {"qword", "v", raw(kRegQword, {1, 2, 3, 4, 5, 6, 7, 8}), "\"v\"=hex(b):01,02,03,04,05,06,07,08"},
       {"unknown type", "v", raw(0x1234, {0xAB}), "\"v\"=hex(1234):ab"},
   };
   for (const auto& c : cases) {
@@ -85,7 +79,7 @@ TEST(RegFileDocument, EveryValueTypeIsWrittenInTheExportFormatAndReadBack) {
 }
 
 TEST(RegFileDocument, LongHexValuesAreContinuedOnLinesOfAtMostEightyCharacters) {
-  const std::size_t sizes[] = {22, 23, 24, 100, 1000};
+  const std::size_t sizes[] = {23, 24, 1000};
   for (const std::size_t size : sizes) {
     RegistryValue value{kRegMultiSz, {}};
     for (std::size_t i = 0; i < size; ++i) value.data.push_back(static_cast<std::uint8_t>(i * 7));
@@ -130,7 +124,6 @@ TEST(RegFileDocument, ReadsUtf8AndUtf16WithAByteOrderMark) {
   const std::string ansi = kHead + "\"voice\"=\"\xC4rlig\"\n\"rate\"=dword:00000020\n";
   const EncodingCase cases[] = {
       {"UTF-8", utf8, false, "\xC3\x84rlig", 32},
-      {"UTF-8, CR LF", crlf, false, "\xC3\x84rlig", 32},
       {"UTF-8 with mark", "\xEF\xBB\xBF" + crlf, false, "\xC3\x84rlig", 32},
       {"UTF-16LE with mark", "\xFF\xFE" + utf16Bytes(text), false, "\xC3\x84rlig", 32},
       {"UTF-16LE, odd last byte", "\xFF\xFE" + utf16Bytes(text) + "x", true, "\xC3\x84rlig", 32},
@@ -162,36 +155,37 @@ TEST(RegFileDocument, ARewriteChangesOnlyTheValueItSets) {
       "\"voice\"=\"Sam\"\n"
       "  ; a note on the rate\n"
       "\"rate\"=dword:00000032\n"
+      "   \n"
+      "@=\"unnamed\"\n"
+      "\"gone\"=-\n"
+      "\"spaced\" = dword:0000000A\n"
+      "\"upper\"=HEX(2):41,00,00,00\n"
+      "\"short\"=dword:a\n"
+      "\"joined\"=hex:01,\\\n"
+      "02\n"
       "\"list\"=hex(7):61,00,00,00,62,00,00,00,\\\n"
       "  00,00\n"
       "\n"
       "[HKEY_CURRENT_USER\\Software\\Quillmont\\SLX3\\CurrentVersion\\Settings\\Sub]\n"
       "\"deep\"=dword:00000001\n";
-  const std::string after =
-      "Windows Registry Editor Version 5.00\n"
-      "\n"
-      "; kept by hand\n"
-      "[HKEY_CURRENT_USER\\Software\\Other]\n"
-      "\"voice\"=\"not ours\"\n"
-      "\n"
-      "[HKEY_CURRENT_USER\\Software\\Quillmont\\SLX3\\CurrentVersion\\Settings]\n"
-      "\"future\"=hex(b):01,00,00,00,00,00,00,00\n"
-      "\"voice\"=\"Anna\"\n"
-      "  ; a note on the rate\n"
-      "\"rate\"=dword:00000032\n"
-      "\"list\"=hex(7):61,00,00,00,62,00,00,00,\\\n"
-      "  00,00\n"
-      "\"pitch\"=dword:00000007\n"
-      "\n"
-      "[HKEY_CURRENT_USER\\Software\\Quillmont\\SLX3\\CurrentVersion\\Settings\\Sub]\n"
-      "\"deep\"=dword:00000001\n";
+  std::string after = before;
+  after.replace(after.find("\"Sam\""), 5, "\"Anna\"");
+  after.insert(after.rfind("\n["), "\"pitch\"=dword:00000007\n");  // the end of its key
   RegFileDocument document = RegFileDocument::parse(before);
   EXPECT_FALSE(document.damaged());
   EXPECT_EQ(document.serialize(), before);
-  const std::vector<std::string> names = {"future", "voice", "rate", "list"};
-  std::vector<std::string> listed;
-  for (const auto& value : document.values(kKey)) listed.push_back(value.name);
-  EXPECT_EQ(listed, names);
+  const std::vector<NamedValue> values = {
+      {"future", raw(kRegQword, {1, 0, 0, 0, 0, 0, 0, 0})},
+      {"voice", RegistryValue::fromText("Sam")},
+      {"rate", RegistryValue::fromDword(50)},
+      {"", RegistryValue::fromText("unnamed")},
+      {"spaced", RegistryValue::fromDword(10)},
+      {"upper", raw(kRegExpandSz, {0x41, 0, 0, 0})},
+      {"short", RegistryValue::fromDword(10)},
+      {"joined", raw(kRegBinary, {1, 2})},
+      {"list", raw(kRegMultiSz, {0x61, 0, 0, 0, 0x62, 0, 0, 0, 0, 0})},
+  };
+  EXPECT_EQ(document.values(kKey), values);
   // Names are found as the registry finds them, and keep the spelling they were stored with.
   document.setValue(kKey, "VOICE", RegistryValue::fromText("Anna"));
   document.setValue(kKey, "pitch", RegistryValue::fromDword(7));
@@ -209,14 +203,9 @@ TEST(RegFileDocument, UnreadableLinesCountAsAbsentAndAreKept) {
       {"unknown escape", "\"fxX0\"=\"a\\qb\""},
       {"text after the quote", "\"fxX0\"=\"1\" 2"},
       {"nine hex digits", "\"fxX0\"=dword:123456789"},
-      {"empty dword", "\"fxX0\"=dword:"},
       {"bad byte", "\"fxX0\"=hex:01,zz"},
-      {"three-digit byte", "\"fxX0\"=hex:100"},
-      {"empty byte", "\"fxX0\"=hex:01,,02"},
       {"unclosed type", "\"fxX0\"=hex(7:00"},
-      {"no data form", "\"fxX0\"=12"},
       {"no equals sign", "\"fxX0\" \"12\""},
-      {"unquoted name", "fxX0=\"12\""},
       {"section without bracket", "[HKEY_CURRENT_USER\\Software"},
       {"zero byte", std::string("\"fxX0\"=\"1\0\"", 10)},
       {"not UTF-8", "\"fxX0\"=\"\xFF\""},
@@ -233,28 +222,6 @@ TEST(RegFileDocument, UnreadableLinesCountAsAbsentAndAreKept) {
     document.setValue(kKey, "fxX0", RegistryValue::fromText("-10"));
     EXPECT_EQ(document.serialize(), text + "\"fxX0\"=\"-10\"\n") << c.label;
   }
-}
-
-TEST(RegFileDocument, ValidFormsAreNotDamage) {
-  const std::string text = kHead +
-                           "; comment\n"
-                           "   \n"
-                           "@=\"unnamed\"\n"
-                           "\"gone\"=-\n"
-                           "\"spaced\" = dword:0000000A\n"
-                           "\"upper\"=HEX(2):41,00,00,00\n"
-                           "\"short\"=dword:a\n"
-                           "\"joined\"=hex:01,\\\n"
-                           "02\n";
-  const RegFileDocument document = RegFileDocument::parse(text);
-  EXPECT_FALSE(document.damaged());
-  const std::vector<NamedValue> expected = {
-      {"", RegistryValue::fromText("unnamed")},      {"spaced", RegistryValue::fromDword(10)},
-      {"upper", raw(kRegExpandSz, {0x41, 0, 0, 0})}, {"short", RegistryValue::fromDword(10)},
-      {"joined", raw(kRegBinary, {1, 2})},
-  };
-  EXPECT_EQ(document.values(kKey), expected);
-  EXPECT_EQ(document.serialize(), text);
 }
 
 TEST(RegFileDocument, TheLaterOfTwoMentionsCounts) {
@@ -305,7 +272,6 @@ TEST(RegFileDocument, KeyHasContentWhenItHoldsAValueOrASubkey) {
     std::string text;
     bool hasContent;
   } cases[] = {
-      {"no file", "", false},
       {"empty key", kHead, false},
       {"only a removed value", kHead + "\"a\"=-\n", false},
       {"only an unreadable line", kHead + "junk\n", false},

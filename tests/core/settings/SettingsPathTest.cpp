@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "TempFolder.h"
 #include "core/settings/SettingsStore.h"
+#include "support/TempFolder.h"
 
 namespace sonalyx {
 namespace {

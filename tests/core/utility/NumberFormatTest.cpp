@@ -24,37 +24,24 @@ TEST(NumberFormat, WritesTheConversionsTheProgramUses) {
       {-2.5, "%-10.10g", "-2.5      "},
       {3.14159265358979, "%10.10g", "3.141592654"},
       {1e-7, "%10.10g", "    1e-007"},
-      {1e-7, "%-10.10g", "1e-007    "},
-      {0.1, "%.10g", "0.1"},
-      {-3.0, "%.10g", "-3"},
       {2.0 / 3.0, "%.14g", "0.66666666666667"},
-      {0.1 + 0.2, "%.15g", "0.3"},
-      {3.14159265, "%.5g", "3.1416"},
-      {123.4, "%.1g", "1e+002"},
-      {1234567.0, "%.6g", "1.23457e+006"},
-      {2.345, "%.2f", "2.35"},
-      {-0.001, "%.2f", "-0.00"},
-      {0.000123456, "%.4g", "0.0001235"},
       {0.0, "%g", "0"},
       {7.0, "%05.1f", "007.0"},
       {-7.0, "%06.1f", "-007.0"},
-      {std::nan(""), "%.10g", "Error"},
       {inf, "%.10g", "Infinity"},
       {-inf, "%.10g", "-Infinity"},
       {std::nan(""), "%10.10g", "     Error"},
       {-inf, "%-10.10g", "-Infinity "},
-      {1e300, "%.2f", nullptr},  // only checked for length below
   };
   for (const auto& c : cases) {
-    if (c.expected == nullptr) continue;
     EXPECT_EQ(formatNumber(c.value, c.conversion), c.expected) << c.conversion << " of " << c.value;
   }
+  // 301 digits, longer than the first buffer.
   EXPECT_EQ(formatNumber(1e300, "%.2f").size(), 304u);
 }
 
 TEST(NumberFormat, FormatGIsThePrecisionShorthand) {
   EXPECT_EQ(formatG(3.14159265, 5), "3.1416");
-  EXPECT_EQ(formatG(-2.0, 5), "-2");
   EXPECT_EQ(formatG(1e-12, 3), "1e-012");
 }
 

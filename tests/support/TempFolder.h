@@ -14,7 +14,7 @@ namespace sonalyx::test {
 class TempFolder {
  public:
   TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "sonalyx-settings-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / "sonalyx-test-XXXXXX").string();
     if (mkdtemp(pattern.data()) != nullptr) m_path = pattern;
   }
   ~TempFolder() {
