@@ -7,9 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -21,6 +19,7 @@
 #include "platform/sound/AudioOutput.h"
 #include "platform/speech/CDirectSS.h"
 #include "platform/speech/CaptureSpeechEngine.h"
+#include "support/TempFolder.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/CMainFrame.h"
@@ -33,11 +32,6 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 }
 
 namespace sonalyx::test {
-
-inline std::string readFile(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
 
 // Sets an environment variable for the life of the object, then puts back what was there.
 class ScopedEnv {
@@ -111,26 +105,14 @@ class Heard {
 // A settings file of its own in a fresh folder, removed afterwards.
 class TempSettings {
  public:
-  TempSettings() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "sonalyx-ui-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) != nullptr) m_folder = pattern;
-    m_env = std::make_unique<ScopedEnv>("SONALYX_SETTINGS", file().string());
-  }
-  ~TempSettings() {
-    m_env.reset();
-    std::error_code ignored;
-    std::filesystem::remove_all(m_folder, ignored);
-  }
-  TempSettings(const TempSettings&) = delete;
-  TempSettings& operator=(const TempSettings&) = delete;
+  TempSettings() : m_env("SONALYX_SETTINGS", file().string()) {}
 
   std::filesystem::path file() const { return m_folder / "Settings.reg"; }
-  const std::filesystem::path& folder() const { return m_folder; }
   SettingsStore store() const { return SettingsStore::openDefault(); }
 
  private:
-  std::filesystem::path m_folder;
-  std::unique_ptr<ScopedEnv> m_env;
+  TempFolder m_folder;
+  ScopedEnv m_env;
 };
 
 // The real program, started as at the command line, in a temporary settings file

@@ -44,7 +44,7 @@ TEST(Program, StartsWithOneChildOnTheCalculatorTabAndPublishesItsVersion) {
   EXPECT_EQ(program.settings().GetInt("Rev", 99), version.rev);
   EXPECT_EQ(program.settings().GetText("appName", ""), "sonalyx");
   // A fresh user: sfxOn is read (and so stored) at start.
-  EXPECT_NE(test::readFile(program.settingsFile().file()).find("\"sfxOn\"=dword:00000000"),
+  EXPECT_NE(test::readBytes(program.settingsFile().file()).find("\"sfxOn\"=dword:00000000"),
             std::string::npos);
 }
 
@@ -213,7 +213,7 @@ TEST(Program, RestoringDefaultsEmptiesTheSettingsAndTheTwoDataSets) {
   ASSERT_TRUE(program.started());
   for (auto& set : program.app().dataSets()) set.append(DataPoint{1.0, 2.0});
   program.commands().action(cmd::kRestoreDefaults)->trigger();
-  const std::string stored = test::readFile(program.settingsFile().file());
+  const std::string stored = test::readBytes(program.settingsFile().file());
   EXPECT_EQ(stored.find("\"expr1\""), std::string::npos);
   EXPECT_EQ(stored.find("\"yMax\"=\"5\""), std::string::npos);
   EXPECT_DOUBLE_EQ(program.settings().GetYMax(), 10);
