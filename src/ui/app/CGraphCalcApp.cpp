@@ -1,0 +1,143 @@
+#include "ui/app/CGraphCalcApp.h"
+
+#include <QApplication>
+#include <QCursor>
+
+#include "core/speech/LanguageTable.h"
+#include "platform/qt/speech/SystemSpeechEngine.h"
+#include "platform/sound/OutputSequencer.h"
+#include "platform/sound/SoundEffects.h"
+#include "platform/speech/CDirectSS.h"
+#include "ui/app/CAboutDlg.h"
+#include "ui/app/CChildFrame.h"
+#include "ui/app/CMainFrame.h"
+#include "ui/app/CMenuStyle.h"
+#include "ui/app/CTranslationDictionary.h"
+#include "ui/app/CommandIds.h"
+#include "ui/app/CommandTable.h"
+#include "ui/app/MenuTranslation.h"
+#include "ui/app/PrintSetupState.h"
+#include "ui/app/ProductInfo.h"
+#include "ui/app/VersionPublisher.h"
+#include "ui/app/Voice.h"
+
+namespace sonalyx::ui {
+
+namespace {
+
+CGraphCalcApp* g_instance = nullptr;
+
+SettingsStore openSettings() {
+  SettingsStore store = SettingsStore::openDefault();
+  store.OpenSettingsKey();
+  return store;
+}
+
+}  // namespace
+
+CGraphCalcApp::CGraphCalcApp(ProgramOptions options)
+    : m_options(std::move(options)),
+      m_settings(openSettings()),
+      m_printState(std::make_unique<PrintSetupState>()),
+      m_dictionary(std::make_unique<CTranslationDictionary>()) {
+  const int langId = m_options.langId ? *m_options.langId : userDefaultLangId();
+  m_dictionary->Init(languageForLangId(langId));
+  g_instance = this;
+}
+
+CGraphCalcApp::~CGraphCalcApp() {
+  m_mainFrame.reset();
+  m_soundEffects.reset();
+  if (g_instance == this) g_instance = nullptr;
+}
+
+CGraphCalcApp* CGraphCalcApp::instance() {
+  return g_instance;
+}
+
+bool CGraphCalcApp::InitInstance() {
+  PublishVersion(m_settings, product::kVersion, m_options.argumentText);
+  // The earcons' switch starts as the stored sfxOn.
+  m_soundEffects = std::make_unique<SoundEffects>(m_settings, OutputSequencer::instance());
+
+  // Disabled menu items stay reachable from the keyboard so that they can be heard.
+  QApplication::setStyle(new CMenuStyle());
+
+  m_mainFrame = std::make_unique<CMainFrame>(*this);
+
+  // The one voice, made once per process; its switch follows this run's settings.
+  CDirectSS& voice = voice::device();
+  if (!voice.engine()) {
+    registerSystemSpeechEngine();
+    voice.Create(OutputSequencer::instance());
+  }
+  voice.setEnabled(m_settings.GetTtsOn());
+
+  QApplication::beep();
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+
+  m_commands = new CCommandTable(m_mainFrame.get());
+  translateMenu(*m_commands, [this](const std::string& text) { return m_dictionary->Translate(text); });
+  connect(m_commands, &CCommandTable::commandTriggered, this, &CGraphCalcApp::onCommand);
+
+  m_mainFrame->CreateChild(*m_commands);
+
+  m_mainFrame->show();
+
+  QApplication::restoreOverrideCursor();
+  return true;
+}
+
+int CGraphCalcApp::ExitInstance() {
+  if (m_mainFrame) m_mainFrame->close();
+  m_mainFrame.reset();
+  m_commands = nullptr;
+  return 0;
+}
+
+bool CGraphCalcApp::sfxOn() const {
+  return m_soundEffects && m_soundEffects->isOn();
+}
+
+void CGraphCalcApp::setSfxOn(bool on) {
+  if (m_soundEffects) m_soundEffects->setOn(on);
+}
+
+void CGraphCalcApp::PlaySoundEffect(int id) const {
+  if (m_soundEffects) m_soundEffects->PlaySoundEffect(id);
+}
+
+void CGraphCalcApp::OnAppAbout() {
+  CAboutDlg about(m_mainFrame.get());
+  about.exec();
+}
+
+void CGraphCalcApp::onCommand(int id) {
+  switch (id) {
+    case cmd::kAppAbout:
+      OnAppAbout();
+      break;
+    case cmd::kFileNew:
+      OnFileNew();
+      break;
+    default:
+      break;
+  }
+}
+
+QString Translate(const QString& english) {
+  const CGraphCalcApp* app = CGraphCalcApp::instance();
+  if (!app) return english;
+  return QString::fromStdString(app->dictionary().Translate(english.toStdString()));
+}
+
+QString Translate(const char* english) {
+  return Translate(QString::fromUtf8(english));
+}
+
+std::string Translate(const std::string& english) {
+  const CGraphCalcApp* app = CGraphCalcApp::instance();
+  return app ? app->dictionary().Translate(english) : english;
+}
+
+}  // namespace sonalyx::ui

@@ -1,0 +1,25 @@
+#pragma once
+
+// What the program says about itself and where its maker is found: the one place
+// to change these addresses.
+namespace sonalyx::ui::product {
+
+// The product version, from the build's project version (a "major.minor.rev"
+// string, as the version line of the About box shows it).
+#ifndef SONALYX_PRODUCT_VERSION
+#error "SONALYX_PRODUCT_VERSION must be defined by the build"
+#endif
+inline constexpr const char* kVersion = SONALYX_PRODUCT_VERSION;
+
+inline constexpr const char* kAppName = "sonalyx";
+inline constexpr const char* kTitle = "Sonalyx";
+
+inline constexpr const char* kWebAddress = "https://www.quillmont.example/";
+inline constexpr const char* kEmailAddress = "sonalyx@quillmont.example";
+
+// The update manifest an external updater reads, and the one it reads when the
+// program was started with exactly "-localTest".
+inline constexpr const char* kUpdateManifest = "https://www.quillmont.example/autoupdate/SLX/updates.xml";
+inline constexpr const char* kTestUpdateManifest = "http://test.quillmont.example/autoupdate/SLX/updates.xml";
+
+}  // namespace sonalyx::ui::product

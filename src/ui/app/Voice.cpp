@@ -1,0 +1,33 @@
+#include "ui/app/Voice.h"
+
+#include "platform/speech/CDirectSS.h"
+#include "platform/speech/SelfVoicing.h"
+#include "ui/app/CGraphCalcApp.h"
+
+namespace sonalyx::ui::voice {
+
+CDirectSS& device() {
+  return CDirectSS::instance();
+}
+
+void Speak(const QString& text) {
+  device().Speak(text.toStdString());
+}
+
+void Stop() {
+  device().Stop();
+}
+
+bool Enabled() {
+  return device().enabled();
+}
+
+void SetEnabled(bool enabled) {
+  device().setEnabled(enabled);
+}
+
+bool ToggleSelfVoicing(const SettingsStore& settings) {
+  return toggleSelfVoicing(settings, device(), [](const std::string& text) { return Translate(text); });
+}
+
+}  // namespace sonalyx::ui::voice

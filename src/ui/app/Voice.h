@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+namespace sonalyx {
+class CDirectSS;
+class SettingsStore;
+}  // namespace sonalyx
+
+// The window layer's one way to the program's voice (CDirectSS). Every text that a
+// frame, the sheet or a self-voicing control says goes through Speak, so that what
+// the user hears and what the speech log records come from one place.
+namespace sonalyx::ui::voice {
+
+// The program-wide voice.
+CDirectSS& device();
+
+// Cuts off what is being said and says `text` (after an earcon that leads it);
+// nothing while self-voicing is off.
+void Speak(const QString& text);
+// Cuts off what is being said.
+void Stop();
+// Self-voicing's switch (mirrors the setting ttsOn).
+bool Enabled();
+void SetEnabled(bool enabled);
+// Inverts the stored ttsOn and says so, in the order that keeps the words heard;
+// returns the new state.
+bool ToggleSelfVoicing(const SettingsStore& settings);
+
+}  // namespace sonalyx::ui::voice

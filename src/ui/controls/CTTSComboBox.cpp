@@ -1,0 +1,59 @@
+#include "ui/controls/CTTSComboBox.h"
+
+#include <QAbstractItemView>
+#include <QFocusEvent>
+
+#include "ui/app/CGraphCalcApp.h"
+#include "ui/controls/VoicedText.h"
+
+namespace sonalyx::ui {
+
+CTTSComboBox::CTTSComboBox(QWidget* parent) : QComboBox(parent) {
+  // The user's changes only (keys, the list, the mouse); the program's own
+  // setCurrentIndex stays silent.
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    if (index == m_lastHighlighted) {
+      m_lastHighlighted = -1;
+      return;
+    }
+    m_lastHighlighted = -1;
+    Speak();
+  });
+  connect(this, &QComboBox::highlighted, this, [this](int index) {
+    if (!view() || !view()->isVisible()) return;
+    m_lastHighlighted = index;
+    speakItem(index);
+  });
+}
+
+void CTTSComboBox::setSpokenLabel(const QString& english) {
+  m_spokenLabel = Translate(english);
+  setAccessibleName(m_spokenLabel);
+}
+
+QString CTTSComboBox::spokenText() const {
+  if (currentIndex() < 0) return m_spokenLabel;
+  if (m_spokenLabel.isEmpty()) return currentText();
+  return m_spokenLabel + QLatin1Char(' ') + currentText();
+}
+
+void CTTSComboBox::Speak() {
+  speakItem(currentIndex());
+}
+
+void CTTSComboBox::speakItem(int index) {
+  if (index < 0) {
+    voiced::say(this, m_spokenLabel);
+    return;
+  }
+  voiced::playSoundEffect(2);
+  const QString item = itemText(index);
+  voiced::say(this, m_spokenLabel.isEmpty() ? item : m_spokenLabel + QLatin1Char(' ') + item);
+}
+
+void CTTSComboBox::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  if (voiced::isArrival(this, event)) Speak();
+}
+
+}  // namespace sonalyx::ui

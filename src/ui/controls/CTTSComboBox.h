@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace sonalyx::ui {
+
+// A combo box that says its label and its selection when it gets the focus and
+// whenever the user changes the selection, with the selection earcon (2) first.
+class CTTSComboBox : public QComboBox {
+  Q_OBJECT
+ public:
+  explicit CTTSComboBox(QWidget* parent = nullptr);
+
+  void setSpokenLabel(const QString& english);
+  const QString& spokenLabel() const { return m_spokenLabel; }
+
+  // The label alone with nothing selected, otherwise the label, a blank and the
+  // selected item.
+  QString spokenText() const;
+  void Speak();
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void speakItem(int index);
+
+  QString m_spokenLabel;
+  // The item last said while the list was open; choosing it says nothing more.
+  int m_lastHighlighted = -1;
+};
+
+}  // namespace sonalyx::ui

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace sonalyx::ui {
+
+// An edit box that says its label and text on focus, echoes every typed character
+// (symbols as words), says "Backspace. " with the character it removes, and says
+// the character the Left and Right arrows move onto.
+class CTTSEdit : public QLineEdit {
+  Q_OBJECT
+ public:
+  explicit CTTSEdit(QWidget* parent = nullptr);
+
+  void setSpokenLabel(const QString& english);
+  const QString& spokenLabel() const { return m_spokenLabel; }
+  // Speak the text with its decimals rounded to the setting numDec.
+  void setRoundNumber(bool on) { m_roundNumber = on; }
+  bool roundNumber() const { return m_roundNumber; }
+
+  // The label followed directly by the text (rounded when asked), symbols as words.
+  QString spokenText() const;
+  void Speak();
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QString m_spokenLabel;
+  bool m_roundNumber = false;
+};
+
+}  // namespace sonalyx::ui

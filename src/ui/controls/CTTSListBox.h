@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QListWidget>
+
+namespace sonalyx::ui {
+
+// A list that selects and says its caret item when it gets the focus and, when
+// asked to, says each item the user selects. Items are read with symbols as words.
+class CTTSListBox : public QListWidget {
+  Q_OBJECT
+ public:
+  explicit CTTSListBox(QWidget* parent = nullptr);
+
+  void setSpeakSelection(bool on) { m_speakSelection = on; }
+  bool speakSelection() const { return m_speakSelection; }
+
+  QString itemSpokenText(int row) const;
+  void SpeakItem(int row);
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  bool m_speakSelection = false;
+  bool m_selectingOnFocus = false;
+};
+
+}  // namespace sonalyx::ui

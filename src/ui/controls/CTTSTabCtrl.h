@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QTabBar>
+
+namespace sonalyx::ui {
+
+// The control panel's tabs. On focus, while shown, it says the current tab's
+// caption followed by " screen.".
+class CTTSTabCtrl : public QTabBar {
+  Q_OBJECT
+ public:
+  explicit CTTSTabCtrl(QWidget* parent = nullptr);
+
+  // "<caption> screen." for a tab: at most 31 characters of its caption, a blank
+  // and the translated "screen.".
+  QString screenText(int index) const;
+  void Speak();
+
+  // Every tab is at least this wide (the panel keeps it at a fifth of its width).
+  void setMinimumTabWidth(int width);
+  int minimumTabWidth() const { return m_minimumTabWidth; }
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  QSize tabSizeHint(int index) const override;
+
+ private:
+  int m_minimumTabWidth = 0;
+};
+
+}  // namespace sonalyx::ui

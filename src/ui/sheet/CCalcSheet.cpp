@@ -1,0 +1,92 @@
+#include "ui/sheet/CCalcSheet.h"
+
+#include <QResizeEvent>
+
+#include "ui/app/CGraphCalcApp.h"
+#include "ui/app/Voice.h"
+#include "ui/controls/CTTSTabCtrl.h"
+#include "ui/controls/VoicedText.h"
+#include "ui/pages/CCaptionPage.h"
+
+namespace sonalyx::ui {
+
+const std::array<const char*, CCalcSheet::kPageCount>& CCalcSheet::englishCaptions() {
+  static const std::array<const char*, kPageCount> captions{"Plot",   "Wave",   "Speech",    "Calculator",
+                                                            "Data 1", "Data 2", "Evaluator", "Matrix"};
+  return captions;
+}
+
+CCalcSheet::CCalcSheet(QWidget* parent) : QTabWidget(parent), m_tabControl(new CTTSTabCtrl()) {
+  setTabBar(m_tabControl);
+  setAccessibleName(Translate("Control panel"));
+  for (int index = 0; index < kPageCount; ++index) {
+    const QString caption = Translate(englishCaptions()[index]);
+    m_pages[index] = new CCaptionPage(caption);
+    addTab(m_pages[index], caption);
+  }
+  connect(this, &QTabWidget::currentChanged, this, &CCalcSheet::onCurrentChanged);
+  m_shownIndex = currentIndex();
+  SetActivePage(kCalculator);
+  if (!m_currentPage) m_pages[kCalculator]->OnSetActive();
+}
+
+CCalcPage* CCalcSheet::page(int index) const {
+  return index >= 0 && index < kPageCount ? m_pages[index] : nullptr;
+}
+
+void CCalcSheet::SetActivePage(int index) {
+  if (!page(index)) return;
+  m_programChange = true;
+  setCurrentIndex(index);
+  m_programChange = false;
+}
+
+void CCalcSheet::StepPage(int direction) {
+  if (count() == 0) return;
+  setCurrentIndex(((currentIndex() + direction) % count() + count()) % count());
+}
+
+void CCalcSheet::ReloadCurrentPage() {
+  if (!m_currentPage) return;
+  SetActivePage(indexOf(m_currentPage));
+  m_currentPage->OnSetActive();
+}
+
+void CCalcSheet::FocusPlotGroup(PlotGroup group) {
+  SetActivePage(kPlot);
+  if (currentIndex() == kPlot) m_pages[kPlot]->FocusGroup(group);
+}
+
+void CCalcSheet::FocusWaveGroup(WaveGroup group) {
+  SetActivePage(kWave);
+  if (currentIndex() == kWave) m_pages[kWave]->FocusGroup(group);
+}
+
+void CCalcSheet::setPanelFonts(const QFont& panelFont, const QFont& pageFont) {
+  m_tabControl->setFont(panelFont);
+  for (CCalcPage* each : m_pages) each->setFont(pageFont);
+}
+
+void CCalcSheet::onCurrentChanged(int index) {
+  if (m_reverting) return;
+  CCalcPage* leaving = page(m_shownIndex);
+  if (leaving && index != m_shownIndex && !leaving->OnKillActive()) {
+    m_reverting = true;
+    setCurrentIndex(m_shownIndex);
+    m_reverting = false;
+    return;
+  }
+  m_shownIndex = index;
+  CCalcPage* arriving = page(index);
+  if (!arriving) return;
+  arriving->OnSetActive();
+  if (!m_programChange) voiced::say(m_tabControl, m_tabControl->screenText(index));
+}
+
+void CCalcSheet::resizeEvent(QResizeEvent* event) {
+  QTabWidget::resizeEvent(event);
+  m_tabControl->setMinimumTabWidth(width() / 5);
+  if (m_currentPage && currentWidget() != m_currentPage) SetActivePage(indexOf(m_currentPage));
+}
+
+}  // namespace sonalyx::ui

@@ -1,0 +1,25 @@
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <QApplication>
+#include <filesystem>
+#include <string>
+
+// One QApplication for every test, on the off-screen platform unless the caller
+// chose another. The voice writes down what it is told instead of speaking, and the
+// sound output records what it plays (earcons included) instead of using a card.
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  ::setenv("SONALYX_SPEECH", "capture", 1);
+  const std::string recording =
+      (std::filesystem::temp_directory_path() / ("sonalyx-ui-tests-" + std::to_string(::getpid()) + ".wav"))
+          .string();
+  ::setenv("SONALYX_AUDIO", ("capture:" + recording).c_str(), 1);
+  ::unsetenv("SONALYX_SPEECH_LOG");
+  QApplication application(argc, argv);
+  ::testing::InitGoogleTest(&argc, argv);
+  const int result = RUN_ALL_TESTS();
+  std::error_code ignored;
+  std::filesystem::remove(recording, ignored);
+  return result;
+}

@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include <QMenu>
+#include <QMenuBar>
+#include <string>
+#include <vector>
+
+#include "ui/UiTestSupport.h"
+#include "ui/app/CommandIds.h"
+#include "ui/sheet/CCalcSheet.h"
+
+namespace sonalyx::ui {
+namespace {
+
+using Heard = std::vector<std::string>;
+using test::ProgramUnderTest;
+
+void speakOn(const SettingsStore& store) {
+  store.SetTtsOn(true);
+}
+
+TEST(ProgramSpeech, AnnouncesItsTabAtStartOnlyWhenSelfVoicingIsOn) {
+  const struct {
+    bool ttsOn;
+    Heard expected;
+  } cases[] = {{true, {"Calculator screen."}}, {false, {}}};
+  for (const auto& c : cases) {
+    test::Heard heard;
+    ProgramUnderTest program([&](const SettingsStore& store) { store.SetTtsOn(c.ttsOn); });
+    ASSERT_TRUE(program.started());
+    EXPECT_EQ(heard.take(), c.expected) << c.ttsOn;
+  }
+}
+
+TEST(ProgramSpeech, SaysWhatTheKeyboardDoesInOrder) {
+  test::Heard heard;
+  ProgramUnderTest program(speakOn);
+  ASSERT_TRUE(program.started());
+  EXPECT_EQ(heard.take(), Heard{"Calculator screen."});
+  CChildFrame* child = program.child();
+  const struct {
+    const char* what;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    Heard expected;
+  } steps[] = {
+      {"next tab", Qt::Key_Tab, Qt::ControlModifier, {"Data 1 screen."}},
+      {"previous tab", Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier, {"Calculator screen."}},
+      {"into the page", Qt::Key_Tab, Qt::NoModifier, {"Label. Calculator"}},
+      {"back to the tabs", Qt::Key_Backtab, Qt::ShiftModifier, {"Calculator screen."}},
+      {"tab to the left", Qt::Key_Left, Qt::NoModifier, {"Speech screen."}},
+      {"into the menus", Qt::Key_F10, Qt::NoModifier, {"File"}},
+      {"a grayed item", Qt::Key_Down, Qt::NoModifier, {"Open Data Set .... Grayed."}},
+      {"up past the top", Qt::Key_Up, Qt::NoModifier, {"Exit"}},
+      {"the next popup", Qt::Key_Right, Qt::NoModifier, {"Options", "Calculator"}},
+      {"down", Qt::Key_Down, Qt::NoModifier, {"Evaluator"}},
+      {"down", Qt::Key_Down, Qt::NoModifier, {"Data Set 1"}},
+      {"down", Qt::Key_Down, Qt::NoModifier, {"Data Set 2"}},
+      {"down", Qt::Key_Down, Qt::NoModifier, {"Matrices"}},
+      // A submenu is looked up in the menu bar by its position, where nothing is at 5.
+      {"the Plot submenu", Qt::Key_Down, Qt::NoModifier, {""}},
+      {"into the submenu", Qt::Key_Right, Qt::NoModifier, {"Source"}},
+      {"out of the submenu", Qt::Key_Escape, Qt::NoModifier, {}},
+      {"up to the end", Qt::Key_Up, Qt::NoModifier, {"Matrices"}},
+      {"back to the bar", Qt::Key_Escape, Qt::NoModifier, {"Options"}},
+      {"out of the menus", Qt::Key_Escape, Qt::NoModifier, {}},
+      {"self-voicing off", Qt::Key_Q, Qt::ControlModifier, {"Self-voicing deactivated."}},
+      {"silent tab change", Qt::Key_Right, Qt::NoModifier, {}},
+      {"self-voicing on", Qt::Key_S, Qt::AltModifier, {"Self-voicing activated."}},
+      {"smaller at the limit", Qt::Key_F7, Qt::NoModifier, {}},
+      {"larger", Qt::Key_F8, Qt::NoModifier, {}},
+      {"graph shown", Qt::Key_F3, Qt::NoModifier, {}},
+  };
+  for (const auto& step : steps) {
+    if (QApplication::activePopupWidget()) {
+      QTest::keyClick(QApplication::activePopupWidget(), step.key, step.modifiers);
+      QApplication::processEvents();
+    } else {
+      program.press(step.key, step.modifiers);
+    }
+    // The menu bar's own key handling may come back through the event loop.
+    QTest::qWait(10);
+    EXPECT_EQ(heard.take(), step.expected) << step.what;
+  }
+  EXPECT_TRUE(program.settings().GetTtsOn());
+  EXPECT_EQ(child->sheet()->currentIndex(), CCalcSheet::kCalculator);
+}
+
+TEST(ProgramSpeech, SpeaksDisabledSizeItemsAsGrayedAndTogglesAutoReturnAloud) {
+  test::Heard heard;
+  ProgramUnderTest program(speakOn);
+  ASSERT_TRUE(program.started());
+  for (int i = 0; i < 7; ++i) program.press(Qt::Key_F8);
+  heard.mark();
+  // Options: the last two items are "&Larger" (disabled now) and "&Smaller".
+  QMenu* options = program.commands().popup(1);
+  program.mainFrame()->menuBar()->setActiveAction(options->menuAction());
+  QTest::qWait(10);
+  QTest::keyClick(options, Qt::Key_Up);
+  QTest::keyClick(options, Qt::Key_Up);
+  QTest::keyClick(options, Qt::Key_Escape);
+  QTest::keyClick(QApplication::activePopupWidget() ? QApplication::activePopupWidget() : program.mainFrame(),
+                  Qt::Key_Escape);
+  QTest::qWait(10);
+  EXPECT_EQ(heard.take(), (Heard{"Options", "Smaller\tF7", "Larger\tF8. Grayed.", "Options"}));
+  const struct {
+    bool expectedSetting;
+    const char* said;
+  } toggles[] = {{true, "Auto return: enabled."}, {false, "Auto return: disabled."}};
+  for (const auto& toggle : toggles) {
+    program.commands().action(cmd::kAutoReturn)->trigger();
+    EXPECT_EQ(program.settings().GetIsAutoReturn(), toggle.expectedSetting);
+    EXPECT_EQ(heard.take(), Heard{toggle.said});
+  }
+  // Restoring the defaults says nothing.
+  program.commands().action(cmd::kRestoreDefaults)->trigger();
+  EXPECT_EQ(heard.take(), Heard{});
+}
+
+}  // namespace
+}  // namespace sonalyx::ui
