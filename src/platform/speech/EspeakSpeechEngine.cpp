@@ -13,9 +13,8 @@ namespace sonalyx {
 
 namespace {
 
-constexpr EngineRange kRateRange{espeakRATE_MINIMUM, espeakRATE_MAXIMUM};
-constexpr EngineRange kPitchRange{0, 100};
-constexpr EngineRange kVolumeRange{0, 200};
+// Words a minute, espeak-ng's pitch and its volume in percent of normal.
+constexpr SpeechRanges kRanges{{espeakRATE_MINIMUM, espeakRATE_MAXIMUM}, {0, 100}, {0, 200}};
 // Small synthesis buffers hand the first sound over sooner.
 constexpr int kBufferMs = 10;
 // Enough for a long sentence; the synthesiser waits when the listener lags behind.
@@ -205,15 +204,7 @@ std::string EspeakSpeechEngine::currentVoice() const {
 }
 
 EngineRange EspeakSpeechEngine::range(SpeechSetting setting) const {
-  switch (setting) {
-    case SpeechSetting::Rate:
-      return kRateRange;
-    case SpeechSetting::Pitch:
-      return kPitchRange;
-    case SpeechSetting::Volume:
-      return kVolumeRange;
-  }
-  return {};
+  return kRanges.of(setting);
 }
 
 bool EspeakSpeechEngine::set(SpeechSetting setting, int value) {

@@ -11,6 +11,17 @@ namespace sonalyx {
 
 enum class SpeechSetting { Rate, Pitch, Volume };
 
+// An engine's three ranges, looked up by setting.
+struct SpeechRanges {
+  EngineRange rate;
+  EngineRange pitch;
+  EngineRange volume;
+
+  constexpr EngineRange of(SpeechSetting setting) const {
+    return setting == SpeechSetting::Rate ? rate : setting == SpeechSetting::Pitch ? pitch : volume;
+  }
+};
+
 // A whole utterance as sound, for writing to a file.
 struct RenderedSpeech {
   std::vector<float> samples;  // mono, -1..1

@@ -20,9 +20,7 @@ namespace {
 
 // Qt's rate and pitch run from -1 to 1 and its volume from 0 to 1; the program
 // works in hundredths of those.
-constexpr EngineRange kRateRange{-100, 100};
-constexpr EngineRange kPitchRange{-100, 100};
-constexpr EngineRange kVolumeRange{0, 100};
+constexpr SpeechRanges kRanges{{-100, 100}, {-100, 100}, {0, 100}};
 
 // The Qt engine whose stop() cancels all clients of a shared service.
 constexpr const char* kSharedServiceEngine = "speechd";
@@ -138,15 +136,7 @@ std::string SystemSpeechEngine::currentVoice() const {
 }
 
 EngineRange SystemSpeechEngine::range(SpeechSetting setting) const {
-  switch (setting) {
-    case SpeechSetting::Rate:
-      return kRateRange;
-    case SpeechSetting::Pitch:
-      return kPitchRange;
-    case SpeechSetting::Volume:
-      return kVolumeRange;
-  }
-  return {};
+  return kRanges.of(setting);
 }
 
 bool SystemSpeechEngine::set(SpeechSetting setting, int value) {
