@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <clocale>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -34,6 +35,9 @@ int main(int argc, char** argv) {
   if (!readOptions(std::vector<std::string>(argv + 1, argv + argc), options, exitCode)) return exitCode;
 
   QApplication application(argc, argv);
+  // Qt adopts the user's locale for the C library too; numbers in files, on the
+  // clipboard and in expressions keep the decimal point whatever the desktop's language.
+  std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName(QStringLiteral("Sonalyx"));
   // Again without the arguments Qt took for itself (-platform and the like), so
   // that the updater's switch sees only the program's.

@@ -6,6 +6,7 @@
 #include "cli/CliError.h"
 #include "core/engines/CCalcEngine.h"
 #include "core/engines/CalcKeyPress.h"
+#include "core/speech/CalculatorAnnouncements.h"
 #include "core/speech/CalculatorKeyIds.h"
 #include "core/speech/CalculatorKeyTable.h"
 
@@ -113,7 +114,15 @@ int runCalcCommand(const Arguments& args, std::ostream& out) {
   CCalcEngine engine;
   for (std::size_t i = 0; i < keys.size(); ++i) {
     press(engine, keys[i]);
-    if (trace) out << names[i] << '\t' << engine.displayText << '\n';
+    if (!trace) continue;
+    out << names[i] << '\t' << engine.displayText;
+    // What the page announces when its base or angle list changes.
+    if (keys[i].kind == CalcKey::Base) {
+      const int value = keys[i].value;
+      out << '\t' << numberBaseAnnouncement(value == 16 ? 0 : value == 10 ? 1 : value == 8 ? 2 : 3);
+    }
+    if (keys[i].kind == CalcKey::Angle) out << '\t' << angleModeAnnouncement(keys[i].value);
+    out << '\n';
   }
   if (!trace) out << engine.displayText << '\n';
   return 0;

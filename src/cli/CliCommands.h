@@ -43,6 +43,10 @@ int runEarconCommand(const Arguments& args, std::ostream& out);
 int runEvaluateCommand(const Arguments& args, std::ostream& out);
 int runMatrixCommand(const Arguments& args, std::ostream& out);
 
+// The playback keys pressed on a graph, and the range a graph is drawn over.
+int runStepCommand(const Arguments& args, std::ostream& out);
+int runGraphCommand(const Arguments& args, std::ostream& out);
+
 // The graph's sound: sonify writes it to a wave file and prints the file's name; play
 // plays it through the sound card and returns when it has finished.
 int runSonifyCommand(const Arguments& args, std::ostream& out);

@@ -1,3 +1,5 @@
+#include <cmath>
+#include <iostream>
 #include <string>
 
 #include "cli/CliCommands.h"
@@ -14,9 +16,15 @@ int runEvalCommand(const Arguments& args, std::ostream& out) {
   std::string expression = args.front();
   for (std::size_t i = 1; i < args.size(); ++i) expression += ' ' + args[i];
   double result = 0.0;
-  std::string error;
-  if (!Calculate(expression, result, error)) throw CliError::user(error);
+  EvaluationError error;
+  if (!Calculate(expression, result, error)) throw CliError::user(invalidEntryText(error));
   out << formatNumber(result, "%.14g") << '\n';
+  // A value outside a function's domain is an answer, not a failure, but it says why.
+  if (std::isnan(result)) {
+    std::cerr << "Result is undefined\n";
+  } else if (std::isinf(result)) {
+    std::cerr << "Result is infinite\n";
+  }
   return 0;
 }
 

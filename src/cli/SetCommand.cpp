@@ -36,7 +36,7 @@ void expectArgumentCount(const Arguments& args, std::size_t count) {
 }  // namespace
 
 int runSetCommand(const Arguments& args, std::ostream& out) {
-  if (args.empty()) throw CliError::usage("set: missing write, read or clipboard");
+  if (args.empty()) throw CliError::usage("set: missing write, read, clipboard, sum or difference");
   const std::string& action = args[0];
   try {
     if (action == "write") {
@@ -65,7 +65,18 @@ int runSetCommand(const Arguments& args, std::ostream& out) {
       out << clipboardText(readSet(args[1]));
       return 0;
     }
+    if (action == "sum" || action == "difference") {
+      if (args.size() != 3) throw CliError::usage("set " + action + ": expects FILE1 and FILE2");
+      DataSet result;
+      DataSet::combine(result, readSet(args[1]), readSet(args[2]), action == "sum");
+      for (const DataPoint& p : result.points()) {
+        out << formatNumber(p.x, "%.10g") << '\t' << formatNumber(p.y, "%.10g") << '\n';
+      }
+      return 0;
+    }
   } catch (const FileError& e) {
+    throw CliError::user(e.what());
+  } catch (const DataSetTextError& e) {
     throw CliError::user(e.what());
   }
   throw CliError::usage("set: unknown action '" + action + "'");

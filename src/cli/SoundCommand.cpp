@@ -19,9 +19,6 @@ namespace sonalyx::cli {
 
 namespace {
 
-// The sounded set is always data set 1, as the Data 1 page fills it.
-constexpr int kDataPage = 1;
-
 struct SoundRequest {
   DataSet set;
   std::string output;  // sonify's -o
@@ -90,7 +87,7 @@ int runSonifyCommand(const Arguments& args, std::ostream& out) {
   AudioOutput silent(AudioOutput::Mode::Null, {}, AudioOutput::Pacing::Manual);
   CSNControl engine(silent);
   engine.CreateInstance();
-  loadEngine(engine, request.set, SettingsStore::openDefault(), kDataPage);
+  loadEngine(engine, request.set, SettingsStore::openDefault());
   const std::string path = applyWavExtension(request.output);
   engine.WriteWaveToFile(path, request.stereo, request.ticks);
   if (!engine.lastWriteError().empty()) throw CliError::user(engine.lastWriteError());
@@ -106,7 +103,7 @@ int runPlayCommand(const Arguments& args, std::ostream& /*out*/) {
   CSNControl engine(output);
   engine.CreateInstance();
   const SettingsStore store = SettingsStore::openDefault();
-  loadEngine(engine, request.set, store, kDataPage);
+  loadEngine(engine, request.set, store);
   engine.Play(request.stereo, request.ticks, false, false, 0, 0);
   // The whole play time, with room for a slow start of the sound server.
   const double playMs = static_cast<double>(engine.settings().playTime) * 1000.0;

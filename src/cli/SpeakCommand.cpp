@@ -151,6 +151,7 @@ int runSpeakCommand(const Arguments& args, std::ostream&) {
 int runEarconCommand(const Arguments& args, std::ostream&) {
   if (args.size() != 1) throw CliError::usage("earcon needs one effect number");
   const int id = wholeNumber("earcon", args[0]);
+  if (id < 0 || id > 6) throw CliError::usage("earcon: ID must be 0 to 6, not " + args[0]);
   AudioOutput& output = AudioOutput::instance();
   OutputSequencer sequencer(output);
   SoundEffects effects(SettingsStore::openDefault(), sequencer);

@@ -7,6 +7,7 @@
 #include <numbers>
 #include <string_view>
 
+#include "core/engines/EvaluationError.h"
 #include "core/utility/DecimalText.h"
 
 namespace sonalyx {
@@ -97,8 +98,8 @@ bool isBlank(char c) {
 bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
-bool isLower(char c) {
-  return c >= 'a' && c <= 'z';
+bool isLetter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 // Recursive descent that computes while it reads, lowest precedence first:
@@ -112,9 +113,43 @@ class Parser {
  public:
   explicit Parser(std::string_view text) : m_text(text) {}
 
-  bool parse(double& value) { return sum(value) && peek() == '\0' && m_pos == m_text.size(); }
+  bool parse(double& value) {
+    if (peek() == '\0' && m_pos == m_text.size()) return fail(EvaluationError::Kind::Empty);
+    if (!sum(value)) return false;
+    if (peek() != '\0' || m_pos != m_text.size()) return unexpected();
+    return true;
+  }
+
+  const EvaluationError& error() const { return m_error; }
 
  private:
+  bool fail(EvaluationError::Kind kind, std::string_view subject = {}) {
+    m_error.kind = kind;
+    m_error.subject = std::string(subject);
+    m_error.position = m_pos;
+    return false;
+  }
+
+  // The word, number or character at the current position, for "Unexpected ...".
+  bool unexpected() {
+    const char c = peek();
+    if (m_pos == m_text.size()) return fail(EvaluationError::Kind::EndsTooEarly);
+    if (c == '\0') return fail(EvaluationError::Kind::Unexpected, "NUL");
+    std::size_t end = m_pos + 1;
+    const auto runOf = [&](auto belongs) {
+      while (end < m_text.size() && belongs(m_text[end])) ++end;
+    };
+    if (isLetter(c)) {
+      runOf(isLetter);
+    } else if (isDigit(c) || c == '.') {
+      runOf([](char d) { return isDigit(d) || d == '.'; });
+    } else {
+      // The rest of a UTF-8 character, so that "π" is named whole.
+      runOf([](char d) { return (static_cast<unsigned char>(d) & 0xC0) == 0x80; });
+    }
+    return fail(EvaluationError::Kind::Unexpected, m_text.substr(m_pos, end - m_pos));
+  }
+
   // The next character after blanks, '\0' at the end.
   char peek() {
     while (m_pos < m_text.size() && isBlank(m_text[m_pos])) ++m_pos;
@@ -166,7 +201,7 @@ class Parser {
     if (!factor(value)) return false;
     if (peek() != '^') return true;
     ++m_pos;
-    if (++m_depth > kMaxNesting) return false;
+    if (++m_depth > kMaxNesting) return fail(EvaluationError::Kind::NestedTooDeeply);
     double exponent = 0.0;
     if (!signedPower(exponent)) return false;
     --m_depth;
@@ -190,34 +225,42 @@ class Parser {
       ++m_pos;
       return bracketed(value);
     }
-    if (isLower(c)) {
-      const std::size_t start = m_pos;
-      while (m_pos < m_text.size() && isLower(m_text[m_pos])) ++m_pos;
-      const std::string_view name = m_text.substr(start, m_pos - start);
-      if (peek() == '(') {
-        const UnaryFunction f = findFunction(name);
-        if (f == nullptr) return false;
-        ++m_pos;
-        if (!bracketed(value)) return false;
-        value = f(value);
-        return true;
+    if (!isLetter(c)) return unexpected();
+    const std::size_t start = m_pos;
+    while (m_pos < m_text.size() && isLetter(m_text[m_pos])) ++m_pos;
+    const std::string_view name = m_text.substr(start, m_pos - start);
+    const UnaryFunction f = findFunction(name);
+    if (peek() == '(' && name != "pi" && name != "e") {
+      if (f == nullptr) {
+        m_pos = start;
+        return fail(EvaluationError::Kind::UnknownName, name);
       }
-      if (name == "pi") {
-        value = std::numbers::pi;
-        return true;
-      }
-      if (name == "e") {
-        value = std::numbers::e;
-        return true;
-      }
+      ++m_pos;
+      if (!bracketed(value)) return false;
+      value = f(value);
+      return true;
     }
-    return false;
+    if (name == "pi") {
+      value = std::numbers::pi;
+      return true;
+    }
+    if (name == "e") {
+      value = std::numbers::e;
+      return true;
+    }
+    m_pos = start;
+    return fail(
+        f != nullptr ? EvaluationError::Kind::FunctionNeedsArgument : EvaluationError::Kind::UnknownName,
+        name);
   }
 
   // The rest of "( sum )" after the opening bracket.
   bool bracketed(double& value) {
-    if (++m_depth > kMaxNesting) return false;
-    if (!sum(value) || peek() != ')') return false;
+    if (++m_depth > kMaxNesting) return fail(EvaluationError::Kind::NestedTooDeeply);
+    if (!sum(value)) return false;
+    const char c = peek();
+    if (c == '\0' && m_pos == m_text.size()) return fail(EvaluationError::Kind::MissingClosingBracket);
+    if (c != ')') return unexpected();
     ++m_pos;
     --m_depth;
     return true;
@@ -237,7 +280,7 @@ class Parser {
       for (++i; i < m_text.size() && isDigit(m_text[i]); ++i, ++digits, --scale)
         mantissa = mantissa * 10 + digitAt(i);
     }
-    if (digits == 0) return false;  // a lone "."
+    if (digits == 0) return unexpected();  // a lone "."
     if (i < m_text.size() && (m_text[i] == 'e' || m_text[i] == 'E')) {
       std::size_t j = i + 1;
       const bool negative = j < m_text.size() && m_text[j] == '-';
@@ -269,18 +312,28 @@ class Parser {
   std::string_view m_text;
   std::size_t m_pos = 0;
   int m_depth = 0;
+  EvaluationError m_error;
 };
 
 }  // namespace
 
-bool Calculate(const std::string& expression, double& result, std::string& errorText) {
+bool Calculate(const std::string& expression, double& result, EvaluationError& error) {
   Parser parser(expression);
   double value = 0.0;
   if (!parser.parse(value)) {
-    errorText = "parse error";
+    error = parser.error();
     return false;
   }
   result = value;
+  return true;
+}
+
+bool Calculate(const std::string& expression, double& result, std::string& errorText) {
+  EvaluationError error;
+  if (!Calculate(expression, result, error)) {
+    errorText = evaluationErrorText(error);
+    return false;
+  }
   return true;
 }
 

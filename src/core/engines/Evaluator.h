@@ -2,11 +2,12 @@
 
 #include <string>
 
+#include "core/engines/EvaluationError.h"
+
 namespace sonalyx {
 
 // Evaluates one arithmetic expression and writes its value to `result`; on
-// failure returns false, leaves `result` alone and writes "parse error" to
-// `errorText`.
+// failure returns false, leaves `result` alone and says why in `error`.
 //
 // The language: decimal numbers (2, .5, 2.5e-007, 1E3), the constants pi and e,
 // binary + - * / ^, unary - and +, postfix ! (factorial, through the gamma
@@ -19,6 +20,9 @@ namespace sonalyx {
 // A value outside a function's domain is no failure: sqrt(-1) gives NaN and 1/0 an
 // infinity. Sampling calls this thousands of times per curve, so a call does not
 // touch the heap.
+bool Calculate(const std::string& expression, double& result, EvaluationError& error);
+
+// The same with the reason as an English sentence ("Missing closing bracket.").
 bool Calculate(const std::string& expression, double& result, std::string& errorText);
 
 }  // namespace sonalyx

@@ -3,7 +3,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <random>
 #include <sstream>
 #include <string_view>
@@ -25,23 +27,46 @@ namespace {
 
 constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
 
-// Words are separated by runs of spaces only: a tab belongs to its word, so "1<TAB>2"
-// is one word that reads as 1.
-DataPoint parseLine(std::string_view line) {
-  std::string_view words[2];
+bool isSeparator(char c) {
+  return c == ' ' || c == '\t' || c == ',' || c == '\v' || c == '\f';
+}
+
+// One word as a number: a decimal, or a value the writer spells out for a point
+// without one ("Error" for NaN, "Infinity"). Nothing for any other word.
+std::optional<double> wordValue(std::string_view word) {
+  std::size_t used = 0;
+  const double value = decimalToDouble(word, &used);
+  if (used != 0 && used == word.size()) return value;
+  if (word == "Error" || word == "nan" || word == "NaN") return std::numeric_limits<double>::quiet_NaN();
+  if (word == "Infinity" || word == "inf") return std::numeric_limits<double>::infinity();
+  if (word == "-Infinity" || word == "-inf") return -std::numeric_limits<double>::infinity();
+  return std::nullopt;
+}
+
+// Exactly two numbers, separated by blanks, tabs or commas; nothing for any other line.
+std::optional<DataPoint> parseLine(std::string_view line) {
+  std::string_view words[3];
   std::size_t found = 0;
   std::size_t i = 0;
-  while (found < 2) {
-    while (i < line.size() && line[i] == ' ') ++i;
+  while (found < 3) {
+    while (i < line.size() && isSeparator(line[i])) ++i;
     if (i == line.size()) break;
     const std::size_t start = i;
-    while (i < line.size() && line[i] != ' ') ++i;
+    while (i < line.size() && !isSeparator(line[i])) ++i;
     words[found++] = line.substr(start, i - start);
   }
+  if (found != 2) return std::nullopt;
+  const auto x = wordValue(words[0]);
+  const auto y = wordValue(words[1]);
+  if (!x || !y) return std::nullopt;
   DataPoint p;
-  p.x = decimalToDouble(words[0]);
-  p.y = decimalToDouble(words[1]);
+  p.x = *x;
+  p.y = *y;
   return p;
+}
+
+bool isBlankLine(std::string_view line) {
+  return line.find_first_not_of(" \t\v\f") == std::string_view::npos;
 }
 
 // Paths arrive as UTF-8 whatever the platform's narrow encoding.
@@ -148,16 +173,25 @@ void writeDataSet(std::ostream& out, const DataSet& set) {
 std::vector<DataPoint> readDataSet(std::istream& in) {
   std::vector<DataPoint> points;
   std::string line;
-  bool first = true;
+  std::size_t number = 0;
   while (std::getline(in, line)) {
+    ++number;
     std::string_view text(line);
     // Editors on other systems may leave a byte-order mark or CR LF line ends.
-    if (first && text.starts_with(kUtf8Bom)) text.remove_prefix(kUtf8Bom.size());
-    first = false;
+    if (number == 1 && text.starts_with(kUtf8Bom)) text.remove_prefix(kUtf8Bom.size());
     if (!text.empty() && text.back() == '\r') text.remove_suffix(1);
-    points.push_back(parseLine(text));
+    if (isBlankLine(text)) continue;
+    const auto point = parseLine(text);
+    if (!point) throw DataSetTextError(DataSetTextError::NotTwoNumbers, number);
+    points.push_back(*point);
   }
+  if (points.empty()) throw DataSetTextError(DataSetTextError::NoPoints);
   return points;
+}
+
+std::vector<DataPoint> readDataSetText(const std::string& text) {
+  std::istringstream in(text);
+  return readDataSet(in);
 }
 
 std::string applySetExtension(const std::string& chosenName) {

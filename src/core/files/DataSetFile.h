@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/files/DataSetTextError.h"
 #include "core/math/DataPoint.h"
 #include "core/math/DataSet.h"
 
@@ -25,11 +26,14 @@ inline constexpr char kDataSetFilePattern[] = "*.set";
 // each in 10 characters with at most 10 significant digits, one space between.
 void writeDataSet(std::ostream& out, const DataSet& set);
 
-// Every line is a point, in file order, and no line is ever an error: the first
-// space-separated word is x and the second y, read as decimals (no number gives 0);
-// further words are ignored. LF and CR LF line ends are both accepted; a last line
-// without a line end still counts, a final line end adds nothing.
+// One point per line, in file order: two numbers separated by blanks, tabs or commas
+// ("1.5 2", "1.5<TAB>2", "1.5, 2"), as files, spreadsheets and the clipboard write
+// them; "Error" and "Infinity" read back as the writer meant them. Blank lines are
+// skipped. LF and CR LF line ends are both accepted; a last line without a line end
+// still counts. Any other line throws DataSetTextError with its number, and text
+// without a single point throws it too: nothing is half loaded.
 std::vector<DataPoint> readDataSet(std::istream& in);
+std::vector<DataPoint> readDataSetText(const std::string& text);
 
 // Appends ".set" unless the name's last three characters are "set" in any case, so
 // "graph.SET" and "myreset" stay as they are and "points.txt" becomes "points.txt.set".
@@ -41,7 +45,7 @@ std::string applySetExtension(const std::string& chosenName);
 std::string saveDataSetFile(const std::string& chosenName, const DataSet& set);
 
 // Reads a data-set file whatever its extension. Throws FileError when it cannot be
-// opened or read (a folder cannot).
+// opened or read (a folder cannot), DataSetTextError when it holds no table.
 std::vector<DataPoint> readDataSetFile(const std::string& path);
 
 }  // namespace sonalyx

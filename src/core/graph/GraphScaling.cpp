@@ -63,13 +63,8 @@ GraphRange graphRange(const GraphRange& settingsRange, bool autoScaleX, bool aut
   return range;
 }
 
-double graphYLabelFactor(const GraphRange& settingsRange, bool autoScaleX, const DataSet& current,
-                         bool polar) {
-  if (autoScaleX) {
-    const auto extent = dataExtent(current, polar);
-    if (extent && isUsable({extent->bottom, extent->top})) return yLabelFactor(extent->bottom, extent->top);
-  }
-  return yLabelFactor(settingsRange.bottom, settingsRange.top);
+double graphYLabelFactor(const GraphRange& drawn) {
+  return yLabelFactor(drawn.bottom, drawn.top);
 }
 
 }  // namespace sonalyx

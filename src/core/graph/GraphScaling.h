@@ -21,10 +21,8 @@ std::optional<GraphRange> dataExtent(const DataSet& set, bool polar);
 GraphRange graphRange(const GraphRange& settingsRange, bool autoScaleX, bool autoScaleY,
                       const DataSet& current, bool polar);
 
-// The y label factor of the graph. Its y range is the settings' unless x (not y) is
-// auto-scaled, when it is the y extent of the current set. That the x flag decides
-// is deliberate: printed graphs and their "y-axis times" line have always done so.
-double graphYLabelFactor(const GraphRange& settingsRange, bool autoScaleX, const DataSet& current,
-                         bool polar);
+// The y label factor of the graph: that of the y range it is drawn over (see
+// graphRange), so the labels always match the ticks shown.
+double graphYLabelFactor(const GraphRange& drawn);
 
 }  // namespace sonalyx

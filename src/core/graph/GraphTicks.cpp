@@ -101,12 +101,9 @@ double yLabelFactor(double yMin, double yMax) {
 }
 
 double yAxisMultiplier(double labelFactor) {
-  const double m = 1.0 / labelFactor;
-  // The factor is the reciprocal of a power of ten, whose reciprocal may come back a
-  // hair below the whole number (1 / 1e-5 gives 99999.99999999999).
-  const double whole = std::round(m);
-  if (whole >= 1.0 && std::fabs(m - whole) <= whole * 1e-12) return whole;
-  return std::trunc(m);
+  // The factor is 10^-n; its reciprocal by division may miss 10^n by a unit in the
+  // last place (1 / 1e-5 gives 99999.99999999999), so the power is taken again.
+  return std::pow(10.0, std::round(-std::log10(labelFactor)));
 }
 
 std::string tickLabel(double value) {

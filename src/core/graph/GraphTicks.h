@@ -44,8 +44,8 @@ std::vector<DeviceLine> yTickMarks(const std::vector<Tick>& ticks, const PlotRec
 // logarithm with the larger magnitude. Up to 50000 gives 1e-4; -0.05..0.05 gives 10.
 double yLabelFactor(double yMin, double yMax);
 
-// The whole number that the y labels must be multiplied by to read true values
-// ("y-axis times N"): 1 / factor truncated, 0 for a factor above 1.
+// What the y labels must be multiplied by to read true values ("y-axis times N"):
+// 1 / factor, a power of ten, 0.1 for a factor of 10.
 double yAxisMultiplier(double labelFactor);
 
 // A tick's label, with two decimals.

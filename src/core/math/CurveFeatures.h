@@ -33,32 +33,33 @@ struct CurveFeatures {
 };
 
 // Cursor convention of every search below: the cursor is a point index, -1 when no
-// point is selected, which searches forward as if it were on point 0. Searches work
-// on the stored x and y of the points; a point whose x or y is absent joins no
-// segment.
+// point is selected. Searches work on the stored x and y of the points; a point
+// whose x or y is absent or not finite joins no segment.
 
 // The index to report for a crossing at x = crossingX on the segment from point
 // `first` to point `second`: a point within kSameX of the crossing, tested in that
 // order, else the nearer of the two, `second` on a tie.
 std::int32_t nearestIndex(double crossingX, const DataSet& set, std::int32_t first, std::int32_t second);
 
-// The first turning point of `kind` beyond the cursor; builds the set's turning-point
-// list first if the set changed since it was built.
+// The first turning point of `kind` beyond the cursor (with no cursor, the first
+// one, which may be point 0); builds the set's turning-point list first if the set
+// changed since it was built.
 std::optional<std::int32_t> nextExtremum(DataSet& set, std::int32_t cursor, Extremum::Kind kind);
 
-// The next crossing of the x axis. The search starts one segment beyond the cursor
-// (point c + 1 to c + 2), so a crossing on the segment that starts at the cursor is
-// not found: after a crossing is found at a point, the next search must move on.
+// The next crossing of the x axis beyond the cursor, the segment that starts at the
+// cursor included: the index of the point nearest the crossing, which must lie
+// beyond the cursor (with no cursor, any point). Stepping from a crossing found
+// therefore always moves on.
 std::optional<std::int32_t> nextAxisCrossing(const DataSet& set, std::int32_t cursor);
 
-// The mirror image: segments from point c - 1 towards point 0 (the first one from
-// c - 1 to c - 2), a tie going to the lower index. Fails with the cursor on point 0
-// or 1, with no cursor, and with the cursor past the last point.
+// The mirror image: segments from the cursor towards point 0, the index found below
+// the cursor; a crossing reports the same point as the forward search. Nothing with
+// no cursor or with the cursor past the last point.
 std::optional<std::int32_t> previousAxisCrossing(const DataSet& set, std::int32_t cursor);
 
-// The next crossing of two curves, segment i of one against segment i of the other,
-// starting one segment beyond the cursor. Both sets need at least two points and the
-// same number of them; the index is one of `first`'s, judged by its x.
+// The next crossing of two curves beyond the cursor, in the same way: each segment
+// of `first` against the segments of `second` that span the same x, so the two
+// sets may have different points. The index is one of `first`'s.
 std::optional<std::int32_t> nextCurveCrossing(const DataSet& first, const DataSet& second,
                                               std::int32_t cursor);
 

@@ -1,6 +1,8 @@
 #include "core/math/DataSet.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <new>
 #include <stdexcept>
 
@@ -10,6 +12,7 @@ void DataSet::clear() {
   m_points.clear();
   m_extrema.clear();
   m_extremaValid = false;
+  m_polar = false;
 }
 
 bool DataSet::hasData() const {
@@ -55,25 +58,41 @@ bool DataSet::setTrend(std::size_t i, std::int32_t t) {
   return true;
 }
 
+namespace {
+
+void convertToCartesian(DataPoint& p) {
+  p.cartX = p.y * std::cos(p.x);
+  p.cartY = p.y * std::sin(p.x);
+}
+
+}  // namespace
+
 bool DataSet::setXAt(std::size_t i, double v) {
   if (i < m_points.size()) {
     m_points[i].x = v;
+    if (m_polar) convertToCartesian(m_points[i]);
     return true;
   }
   if (i > m_points.size()) return false;
   DataPoint p;
   p.x = v;
   p.y = 0.0;
+  if (m_polar) convertToCartesian(p);
   append(p);
   return true;
 }
 
 bool DataSet::setYAt(std::size_t i, double v) {
-  if (i < m_points.size()) return setY(i, v);
+  if (i < m_points.size()) {
+    setY(i, v);
+    if (m_polar) convertToCartesian(m_points[i]);
+    return true;
+  }
   if (i > m_points.size()) return false;
   DataPoint p;
   p.x = 0.0;
   p.y = v;
+  if (m_polar) convertToCartesian(p);
   append(p);
   return true;
 }
@@ -90,11 +109,14 @@ bool DataSet::makeGrid(double x0, double x1, std::size_t n) {
   } catch (const std::bad_alloc&) {
     return false;
   }
+  // Each x computed from its index, not accumulated: 500 additions of 0.04 would put
+  // the middle of -10..10 at -3.6e-14 and the end short of 10. An x within a
+  // billionth of a step of 0 is 0, so a grid through 0 has its 0 where it is spoken.
   const double step = (x1 - x0) / static_cast<double>(n - 1);
-  double x = x0;
-  for (auto& p : grid) {
-    p.x = x;
-    x += step;  // accumulated on purpose: the last x may miss x1 by rounding
+  const double snap = std::fabs(step) * 1e-9;
+  for (std::size_t i = 0; i < n; ++i) {
+    const double x = i + 1 == n ? x1 : x0 + static_cast<double>(i) * step;
+    grid[i].x = std::fabs(x) <= snap ? 0.0 : x;
   }
   assign(std::move(grid));
   return true;
@@ -124,26 +146,72 @@ std::pair<double, double> DataSet::rangeY(bool useCartesian) const {
 
 std::size_t DataSet::toCartesian() {
   if (!hasData()) return 0;
-  for (auto& p : m_points) {
-    p.cartX = p.y * std::cos(p.x);
-    p.cartY = p.y * std::sin(p.x);
-  }
+  for (auto& p : m_points) convertToCartesian(p);
+  m_polar = true;
   return m_points.size();
 }
 
+namespace {
+
+// A set's values at any x, for the sum and difference: exact where it has a point,
+// linear between neighbours, nothing outside its range.
+class Interpolant {
+ public:
+  explicit Interpolant(const std::vector<DataPoint>& points) : m_points(points) {
+    for (std::size_t i = 0; i < points.size(); ++i) {
+      if (std::isfinite(points[i].x)) m_order.push_back(i);
+    }
+    // Stable, so that of equal x the first point counts.
+    std::stable_sort(m_order.begin(), m_order.end(),
+                     [&](std::size_t l, std::size_t r) { return points[l].x < points[r].x; });
+  }
+
+  // The value of `field` at x; NaN outside the range or where a value is missing.
+  double at(double x, double DataPoint::*field) const {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    if (m_order.empty() || !(x >= xOf(0) && x <= xOf(m_order.size() - 1))) return nan;
+    const auto upper = std::lower_bound(m_order.begin(), m_order.end(), x,
+                                        [&](std::size_t i, double v) { return m_points[i].x < v; });
+    const std::size_t k = static_cast<std::size_t>(upper - m_order.begin());
+    const DataPoint& right = m_points[m_order[k]];
+    if (right.x == x) return valueOf(right.*field);
+    const DataPoint& left = m_points[m_order[k - 1]];
+    const double l = valueOf(left.*field);
+    const double r = valueOf(right.*field);
+    return l + (r - l) * ((x - left.x) / (right.x - left.x));
+  }
+
+ private:
+  double xOf(std::size_t k) const { return m_points[m_order[k]].x; }
+  static double valueOf(double v) { return v == kAbsent ? std::numeric_limits<double>::quiet_NaN() : v; }
+
+  const std::vector<DataPoint>& m_points;
+  std::vector<std::size_t> m_order;  // indices of the points with a finite x, by x
+};
+
+}  // namespace
+
 void DataSet::combine(DataSet& result, const DataSet& a, const DataSet& b, bool add) {
-  if (!a.hasData() || !b.hasData() || a.count() != b.count()) return;
-  const auto [minX, maxX] = a.rangeX(false);
-  if (!result.makeGrid(minX, maxX, a.count())) return;
+  if (!a.hasData() || !b.hasData()) return;
+  const Interpolant other(b.m_points);
   const double sign = add ? 1.0 : -1.0;
+  std::vector<DataPoint> points(a.count());
   for (std::size_t i = 0; i < a.count(); ++i) {
     const DataPoint& p = a.m_points[i];
-    const DataPoint& q = b.m_points[i];
-    DataPoint& r = result.m_points[i];
-    r.y = p.y + sign * q.y;
-    r.derivative = p.derivative + sign * q.derivative;
-    r.integral = p.integral + sign * q.integral;
+    DataPoint& r = points[i];
+    r.x = p.x;
+    const auto combined = [&](double DataPoint::*field) {
+      const double own = p.*field;
+      if (own == kAbsent) return std::numeric_limits<double>::quiet_NaN();
+      return own + sign * other.at(p.x, field);
+    };
+    r.y = combined(&DataPoint::y);
+    // Calculus values exist only where both sets have them.
+    const bool calculus = p.derivative != kAbsent && p.integral != kAbsent;
+    r.derivative = calculus ? combined(&DataPoint::derivative) : kAbsent;
+    r.integral = calculus ? combined(&DataPoint::integral) : kAbsent;
   }
+  result.assign(std::move(points));
 }
 
 bool DataSet::findExtrema() {
@@ -152,9 +220,10 @@ bool DataSet::findExtrema() {
   const std::size_t n = m_points.size();
   if (n == 0) return false;
   auto y = [this](std::size_t i) { return m_points[i].y; };
-  // End points only ever count as minima: the first when the curve rises from it,
-  // the last when the curve falls into it.
+  // An end point is a turning point by its one neighbour: a minimum where the curve
+  // rises from it or falls into it, a maximum the other way round.
   if (n >= 2 && y(0) < y(1)) m_extrema.push_back({Extremum::Minimum, 0});
+  if (n >= 2 && y(0) > y(1)) m_extrema.push_back({Extremum::Maximum, 0});
   for (std::size_t i = 1; i + 1 < n; ++i) {
     const double a = y(i - 1), b = y(i), c = y(i + 1);
     if (a < b && b > c) {
@@ -164,6 +233,7 @@ bool DataSet::findExtrema() {
     }
   }
   if (n >= 2 && y(n - 1) < y(n - 2)) m_extrema.push_back({Extremum::Minimum, n - 1});
+  if (n >= 2 && y(n - 1) > y(n - 2)) m_extrema.push_back({Extremum::Maximum, n - 1});
   m_extremaValid = true;
   return true;
 }

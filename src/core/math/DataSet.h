@@ -38,8 +38,9 @@ class DataSet {
   bool setXAt(std::size_t i, double v);
   bool setYAt(std::size_t i, double v);
 
-  // n points from x0 to x1, the step accumulated point by point. False, with the
-  // set unchanged, for x0 > x1, n < 2 or a grid that does not fit in memory.
+  // n points from x0 to x1, point i at x0 + i * (x1 - x0) / (n - 1) and the last
+  // exactly at x1, with an x within 1e-9 of a step of 0 made 0. False, with the set
+  // unchanged, for x0 > x1, n < 2 or a grid that does not fit in memory.
   bool makeGrid(double x0, double x1, std::size_t n);
 
   // (minimum, maximum) of x or cartX, and of y or cartY; an empty set gives
@@ -47,11 +48,17 @@ class DataSet {
   std::pair<double, double> rangeX(bool useCartesian) const;
   std::pair<double, double> rangeY(bool useCartesian) const;
 
-  // Polar to Cartesian for every point of a set with data; returns how many.
+  // Polar to Cartesian for every point of a set with data; returns how many. The
+  // set is polar from then on (x the angle, y the radius), until it is refilled.
   std::size_t toCartesian();
+  // Whether the set holds polar points: drawn, played and stepped by cartX, cartY.
+  bool isPolar() const { return m_polar; }
 
-  // result = a + b (add) or a - b, matched by index over a grid spanning a's x
-  // range. Leaves result untouched when either lacks data or the counts differ.
+  // result = a + b (add) or a - b at a's own x values: b's value at the same x, or
+  // linearly interpolated between b's neighbours there; where x lies outside b's x
+  // range (or a value is missing) the point is a gap, its y NaN. Derivative and
+  // integral are combined the same way. Leaves result untouched when either set
+  // lacks data.
   static void combine(DataSet& result, const DataSet& a, const DataSet& b, bool add);
 
   // Builds the turning-point list once per change of the points' y (a fill, an
@@ -64,6 +71,7 @@ class DataSet {
   std::vector<DataPoint> m_points;
   std::vector<Extremum> m_extrema;
   bool m_extremaValid = false;
+  bool m_polar = false;
 };
 
 }  // namespace sonalyx

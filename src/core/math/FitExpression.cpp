@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "core/math/FitModel.h"
 #include "core/utility/NumberFormat.h"
@@ -27,17 +26,8 @@ constexpr std::array<std::string_view, kFitModelCount> kTemplates = {
     "a * sin((b)*x+c) + d",
 };
 
-void replaceEvery(std::string& text, char letter, const std::string& with) {
-  std::string result;
-  result.reserve(text.size() + with.size() * 4);
-  for (char ch : text) {
-    if (ch == letter) {
-      result += with;
-    } else {
-      result += ch;
-    }
-  }
-  text = std::move(result);
+bool isLetter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 }  // namespace
@@ -50,10 +40,23 @@ std::string_view fitExpressionTemplate(int model) {
 std::string fitExpression(int model, const std::vector<double>& coefficients) {
   const std::string_view pattern = fitExpressionTemplate(model);
   if (pattern.empty() || coefficients.size() < 2) return {};
-  std::string text(pattern);
   const std::size_t letters = std::min<std::size_t>(coefficients.size(), 5);
-  for (std::size_t i = 0; i < letters; ++i) {
-    replaceEvery(text, static_cast<char>('a' + i), formatNumber(coefficients[i], "%.10g"));
+  // One pass, each coefficient bracketed: a number's own exponent letter is never
+  // taken for a coefficient, and a negative b keeps its sign under ^ and *.
+  std::string text;
+  text.reserve(pattern.size() + letters * 24);
+  for (std::size_t i = 0; i < pattern.size(); ++i) {
+    const char c = pattern[i];
+    const std::size_t index = static_cast<std::size_t>(c - 'a');
+    const bool standsAlone =
+        (i == 0 || !isLetter(pattern[i - 1])) && (i + 1 == pattern.size() || !isLetter(pattern[i + 1]));
+    if (c >= 'a' && index < letters && standsAlone) {
+      text += '(';
+      text += formatNumber(coefficients[index], "%.10g");
+      text += ')';
+    } else {
+      text += c;
+    }
   }
   return text;
 }

@@ -12,7 +12,6 @@ struct ModelEntry {
   std::string_view title;
 };
 
-// "Logrithmic" is the program's own spelling: the text is also a translation key.
 constexpr std::array<ModelEntry, kFitModelCount> kModels = {{
     {"stats", "Basic Statistical Information"},
     {"linear", "Linear: y = a + bx"},
@@ -20,7 +19,7 @@ constexpr std::array<ModelEntry, kFitModelCount> kModels = {{
     {"cubic", "Cubic: y = ax^3 + bx^2 + cx + d"},
     {"quartic", "Quartic: y = ax^4 + bx^3 + cx^2 + dx + e"},
     {"exponential", "Exponential: y = a b^x"},
-    {"logarithmic", "Logrithmic: y = a + b*ln(x)"},
+    {"logarithmic", "Logarithmic: y = a + b*ln(x)"},
     {"power", "Power: y = a x^b"},
     {"hyperbolic", "Hyperbolic: y = a + b/x"},
     {"rational", "Rational: y = a / (b + x)"},

@@ -76,7 +76,7 @@ void LogisticModel::estimateStart() {
       if (ratio > 0.0 && std::isfinite(ratio)) line.add(x[i], std::log(ratio));
     }
     const StraightLineFit::Line fit = line.line();
-    if (!fit.determined) continue;
+    if (fit.shape != StraightLineFit::Shape::Line) continue;
     const double a = isGiven(0) ? a0 : std::exp(fit.intercept);
     const double b = isGiven(1) ? b0 : -fit.slope;
     double sum = 0.0;

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <optional>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -21,9 +20,10 @@ namespace {
 
 // Polynomial coefficients smaller than this are taken as 0.
 constexpr double kPolynomialZeroBelow = 1e-9;
-// The rational ax/(b + x) divides by x and rejects x this close to 0; the
-// hyperbolic model rejects only an x of exactly 0.
+// The models that divide by x (b/x, ax/(b + x)) reject an x this close to 0.
 constexpr double kSmallestDivisor = 1e-11;
+// For y = a/(b + x) and y = ax/(b + x), whose transformed X mixes x and y.
+constexpr char kModelCannotFit[] = "These points cannot be fitted by this model.";
 
 class FitRun {
  public:
@@ -47,10 +47,13 @@ class FitRun {
 
   // Models 1 and 5 to 10: a straight line through transformed pairs. `valid`
   // rejects a point, `transform` gives its (X, Y) and `coefficients` turns A and B
-  // into the model's a and b.
+  // into the model's a and b. `noSpread` is the message for data whose X does not
+  // spread, and for a flat Y when the model cannot take one (`takesFlatY`).
   template <typename Valid, typename Transform, typename Coefficients>
-  void straightLine(int model, std::size_t count, const char* invalidMessage, Valid valid,
-                    Transform transform, Coefficients coefficients) {
+  void straightLine(int model, const char* invalidMessage, Valid valid, Transform transform,
+                    Coefficients coefficients, bool takesFlatY = true,
+                    const char* noSpread = "All x values are equal: no line can be fitted.") {
+    const std::size_t count = m_points.size();
     header(model, count);
     for (std::size_t i = 0; i < count; ++i) {
       if (!valid(m_points[i])) {
@@ -64,10 +67,18 @@ class FitRun {
       fit.add(x, y);
     }
     const StraightLineFit::Line line = fit.line();
-    double a = 0.0;
-    double b = 0.0;
-    if (line.determined) std::tie(a, b) = coefficients(line.intercept, line.slope);
-    m_result.lines.push_back(FitText::coefficientLine('r', line.r));
+    if (line.shape == StraightLineFit::Shape::NoSpreadX ||
+        (line.shape == StraightLineFit::Shape::FlatY && !takesFlatY)) {
+      message(noSpread);
+      return;
+    }
+    const auto [a, b] = coefficients(line.intercept, line.slope);
+    if (line.shape == StraightLineFit::Shape::FlatY) {
+      // Every y alike: the line is flat and a correlation means nothing.
+      m_result.lines.push_back("r: " + m_text.translate("undefined"));
+    } else {
+      m_result.lines.push_back(FitText::coefficientLine('r', line.r));
+    }
     coefficient('a', a);
     coefficient('b', b);
   }
@@ -131,7 +142,6 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
   if (!set.hasData() || set.count() < 2) return result;
   result.ran = true;
   FitRun run(set, translate, result);
-  const std::size_t count = set.count();
   const auto any = [](const DataPoint&) { return true; };
   const auto asIs = [](double a, double b) { return Pair{a, b}; };
 
@@ -140,9 +150,8 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       result.lines = statisticsLines(set, translate);
       break;
     case kLinear:
-      // The last point is left out of the line, and out of the count shown.
       run.straightLine(
-          model, count - 1, "", any,
+          model, "", any,
           [](const DataPoint& p) {
             return Pair{p.x, p.y};
           },
@@ -155,8 +164,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kExponential:
       run.straightLine(
-          model, count, "Invalid data set.  Y values must be > 0.",
-          [](const DataPoint& p) { return p.y > 0.0; },
+          model, "Invalid data set.  Y values must be > 0.", [](const DataPoint& p) { return p.y > 0.0; },
           [](const DataPoint& p) {
             return Pair{p.x, std::log(p.y)};
           },
@@ -166,8 +174,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kLogarithmic:
       run.straightLine(
-          model, count, "Invalid data set.  X values must be > 0.",
-          [](const DataPoint& p) { return p.x > 0.0; },
+          model, "Invalid data set.  X values must be > 0.", [](const DataPoint& p) { return p.x > 0.0; },
           [](const DataPoint& p) {
             return Pair{std::log(p.x), p.y};
           },
@@ -175,7 +182,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kPower:
       run.straightLine(
-          model, count, "Invalid data set.  X and Y values must be > 0.",
+          model, "Invalid data set.  X and Y values must be > 0.",
           [](const DataPoint& p) { return p.x > 0.0 && p.y > 0.0; },
           [](const DataPoint& p) {
             return Pair{std::log(p.x), std::log(p.y)};
@@ -186,8 +193,8 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kHyperbolic:
       run.straightLine(
-          model, count, "Invalid data set.  X values cannot = 0.",
-          [](const DataPoint& p) { return p.x != 0.0; },
+          model, "Invalid data set.  X values cannot = 0.",
+          [](const DataPoint& p) { return !(std::fabs(p.x) < kSmallestDivisor); },
           [](const DataPoint& p) {
             return Pair{1.0 / p.x, p.y};
           },
@@ -195,25 +202,27 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kRational:
       run.straightLine(
-          model, count, "", any,
+          model, "", any,
           [](const DataPoint& p) {
             return Pair{p.x * p.y, p.y};
           },
           [](double a, double b) {
             const double denominator = -1.0 / b;
             return Pair{denominator * a, denominator};
-          });
+          },
+          false, kModelCannotFit);
       break;
     case kRationalX:
       run.straightLine(
-          model, count, "Invalid data set.  X values cannot = 0.",
+          model, "Invalid data set.  X values cannot = 0.",
           [](const DataPoint& p) { return !(std::fabs(p.x) < kSmallestDivisor); },
           [](const DataPoint& p) {
             return Pair{p.y / p.x, p.y};
           },
           [](double a, double b) {
             return Pair{a, -b};
-          });
+          },
+          true, kModelCannotFit);
       break;
     case kLogistic: {
       LogisticModel fit;

@@ -26,8 +26,9 @@ using FitTranslate = std::function<std::string(const std::string&)>;
 using SineStartChooser = std::function<double(double estimatedB)>;
 
 // Fits model `model` (see FitModel.h; 0 is the statistics summary) to every point
-// of `set`, except that the linear model leaves the last point out. Any other
-// model number computes nothing.
+// of `set`. Any other model number computes nothing. Straight-line models report a
+// flat y as a = mean y, b = 0 (the exponential's b = 1) and "r: undefined", and
+// x values that do not spread as one line saying no line can be fitted.
 FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSineB = {},
                  const FitTranslate& translate = {});
 

@@ -13,21 +13,22 @@ struct SampleStatistics {
   std::size_t count = 0;
   double sumX = 0.0;
   double meanX = 0.0;
-  double deviationX = 0.0;  // standard deviation, divided by n − 1
-  // Divided by n and of x alone, in spite of its label "Sample deviation:".
-  double sampleDeviation = 0.0;
+  double sampleDeviationX = 0.0;      // standard deviation divided by n − 1
+  double populationDeviationX = 0.0;  // divided by n
   double sumY = 0.0;
   double meanY = 0.0;
-  double deviationY = 0.0;  // standard deviation, divided by n − 1
+  double sampleDeviationY = 0.0;
+  double populationDeviationY = 0.0;
 };
 
 // Over every point of the set, which needs at least 2 points.
 SampleStatistics computeStatistics(const DataSet& set);
 
 // The "Basic Statistical Information" lines: "Number of points: 3", an empty line,
-// the x values, an empty line, the y values; each value with "%.10g", magnitudes
-// below 1e-11 as 0. No lines for a set without data or with fewer than 2 points.
-// `translate` receives each English label; empty means English.
+// the x values (sum, mean, sample and population standard deviation), an empty
+// line, the same for y; each value with "%.10g", magnitudes below 1e-11 as 0. No
+// lines for a set without data or with fewer than 2 points. `translate` receives
+// each English label; empty means English.
 std::vector<std::string> statisticsLines(
     const DataSet& set, const std::function<std::string(const std::string&)>& translate = {});
 

@@ -1,13 +1,22 @@
 #include "core/math/StraightLineFit.h"
 
 #include <cmath>
+#include <limits>
 
 namespace sonalyx {
 
 namespace {
 
-// Spreads at or below this count as none: the line is left undetermined.
-constexpr double kSpreadFloor = 1e-11;
+// Values that differ by less than this fraction of their magnitude do not spread:
+// the difference is rounding, not data. Relative, so that data measured in
+// millionths are fitted as well as data measured in millions.
+constexpr double kRelativeSpread = 1e-10;
+
+bool spreads(double sumOfSquares, double n, double largest) {
+  const double floor = kRelativeSpread * largest;
+  // Written so that a NaN counts as spread: it then reaches the results as NaN.
+  return !(sumOfSquares <= n * floor * floor);
+}
 
 }  // namespace
 
@@ -24,6 +33,8 @@ void StraightLineFit::add(double x, double y) {
   m_sumXX += dx * dx;
   m_sumYY += dy * dy;
   m_sumXY += dx * dy;
+  m_largestX = std::fmax(m_largestX, std::fabs(x));
+  m_largestY = std::fmax(m_largestY, std::fabs(y));
 }
 
 StraightLineFit::Line StraightLineFit::line() const {
@@ -33,13 +44,19 @@ StraightLineFit::Line StraightLineFit::line() const {
   const double ssxx = m_sumXX - m_sumX * m_sumX / n;
   const double ssyy = m_sumYY - m_sumY * m_sumY / n;
   const double ssxy = m_sumXY - m_sumX * m_sumY / n;
-  // Written so that a NaN anywhere also leaves the line undetermined.
-  if (!(ssxx > kSpreadFloor && ssyy > kSpreadFloor)) return result;
+  const double meanX = m_x0 + m_sumX / n;
+  const double meanY = m_y0 + m_sumY / n;
+  if (!spreads(ssxx, n, m_largestX)) return result;
+  if (!spreads(ssyy, n, m_largestY)) {
+    result.shape = Shape::FlatY;
+    result.intercept = meanY;
+    result.r = std::numeric_limits<double>::quiet_NaN();
+    return result;
+  }
+  result.shape = Shape::Line;
   result.slope = ssxy / ssxx;
-  // (ΣY − B·ΣX)/n, with the sums taken back to the origin.
-  result.intercept = (m_y0 + m_sumY / n) - result.slope * (m_x0 + m_sumX / n);
+  result.intercept = meanY - result.slope * meanX;
   result.r = ssxy / (std::sqrt(ssyy) * std::sqrt(ssxx));
-  result.determined = true;
   return result;
 }
 

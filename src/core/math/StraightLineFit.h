@@ -8,13 +8,17 @@ namespace sonalyx {
 // The regression models feed it their transformed pairs (ln y, 1/x, x·y ...).
 class StraightLineFit {
  public:
+  enum class Shape {
+    Line,       // X and Y both spread: A, B and r as usual
+    FlatY,      // Y does not spread: B = 0, A = mean Y, r undefined (NaN)
+    NoSpreadX,  // every X alike: no line is determined; A, B, r are 0
+  };
+
   struct Line {
+    Shape shape = Shape::NoSpreadX;
     double intercept = 0.0;  // A
     double slope = 0.0;      // B
     double r = 0.0;          // correlation coefficient
-    // False when the X or the Y values do not spread by more than 1e-11 (sum of
-    // squared deviations): A, B and r are then all 0.
-    bool determined = false;
   };
 
   void add(double x, double y);
@@ -32,6 +36,9 @@ class StraightLineFit {
   double m_sumXX = 0.0;
   double m_sumYY = 0.0;
   double m_sumXY = 0.0;
+  // The largest magnitudes, against which a spread counts as none.
+  double m_largestX = 0.0;
+  double m_largestY = 0.0;
 };
 
 }  // namespace sonalyx

@@ -37,7 +37,7 @@ std::optional<Assignment> parseEvaluatorAssignment(std::string_view text) {
 }
 
 std::optional<Assignment> parseMatrixAssignment(std::string_view text) {
-  return split(text);
+  return parseEvaluatorAssignment(text);
 }
 
 }  // namespace sonalyx

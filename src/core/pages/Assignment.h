@@ -17,9 +17,8 @@ struct Assignment {
 // name), else the text is an expression ("= 5", "5 =", "2a = 3").
 std::optional<Assignment> parseEvaluatorAssignment(std::string_view text);
 
-// The Matrix page's reading: the name is not checked at all, so "=5" assigns to
-// the empty name and "2A = [1]" to "2A"; only an "=" at the very end is no
-// assignment.
+// The Matrix page's reading, by the same rule: "=5" and "2A = [1]" are no
+// assignments but expressions, which fail as such.
 std::optional<Assignment> parseMatrixAssignment(std::string_view text);
 
 // The text without blanks (spaces and tabs) at either end.

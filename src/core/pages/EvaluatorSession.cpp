@@ -11,11 +11,25 @@ namespace sonalyx {
 
 EvaluatorSession::EvaluatorSession(Translator translator, Evaluate evaluate, std::size_t listCapacity)
     : m_translator(std::move(translator)),
-      m_evaluate(evaluate ? std::move(evaluate) : Evaluate(Calculate)),
+      m_evaluate(std::move(evaluate)),
       m_listCapacity(listCapacity < 1 ? 1 : listCapacity) {}
 
 std::string EvaluatorSession::translate(const char* text) const {
   return translateWith(m_translator, text);
+}
+
+bool EvaluatorSession::evaluate(const std::string& expression, double& value, std::string& shownError) const {
+  if (!m_evaluate) {
+    EvaluationError error;
+    if (Calculate(expression, value, error)) return true;
+    shownError = invalidEntryText(error, m_translator);
+    return false;
+  }
+  std::string reason;
+  if (m_evaluate(expression, value, reason)) return true;
+  shownError = translate(kInvalidEntry);
+  if (!reason.empty()) shownError += ' ' + reason;
+  return false;
 }
 
 void EvaluatorSession::insertIntoList(std::string entry) {
@@ -51,10 +65,10 @@ EvaluatorEntry EvaluatorSession::enter(const std::string& text) {
     std::string error;
     if (!substituteVariables(expression, m_variables)) {
       shown.resultText = translate(kCircularVariables);
-    } else if (m_evaluate(expression, value, error)) {
+    } else if (evaluate(expression, value, error)) {
       shown.resultText = formatNumber(value, "%.14g");
     } else {
-      shown.resultText = error == "parse error" ? translate(kInvalidEntry) : error;
+      shown.resultText = error;
     }
   }
   shown.listEntry = entry + " = " + shown.resultText;

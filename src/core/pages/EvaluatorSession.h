@@ -45,7 +45,8 @@ class EvaluatorSession {
   // A list box holds this many lines; the oldest goes when it is full.
   static constexpr std::size_t kListCapacity = 32767;
 
-  // `evaluate` defaults to the program's expression evaluator.
+  // `evaluate` defaults to the program's expression evaluator. A failed evaluation
+  // shows "Invalid entry." and the evaluator's reason.
   explicit EvaluatorSession(Translator translator = {}, Evaluate evaluate = {},
                             std::size_t listCapacity = kListCapacity);
 
@@ -61,6 +62,7 @@ class EvaluatorSession {
 
  private:
   std::string translate(const char* text) const;
+  bool evaluate(const std::string& expression, double& value, std::string& shownError) const;
   void insertIntoList(std::string entry);
   std::optional<EvaluatorRecall> recalled(std::optional<std::string> text) const;
 

@@ -8,21 +8,20 @@ const DataSet& engineSource(const std::array<DataSet, 4>& slots, const SettingsS
   return selectedDataSet(slots, store.GetSetType());
 }
 
-RangeFilter rangeFilterFromSettings(const SettingsStore& store, int lastDataPage) {
+RangeFilter rangeFilterFromSettings(const SettingsStore& store, const DataSet& source) {
   RangeFilter filter;
   filter.autoScaleX = store.GetAutoScaleX();
   filter.autoScaleY = store.GetAutoScaleY();
   filter.plotType = store.GetPlotType();
-  filter.polar = lastDataPage == 1 ? store.GetData1IsPolar() : store.GetData2IsPolar();
+  filter.polar = source.isPolar();
   // With both axes auto-scaled nothing is compared, so the range is not read.
   if (!filter.autoScaleX || !filter.autoScaleY) filter.range = store.GetGraphRange();
   return filter;
 }
 
-void loadEngine(AudioPlotEngine& engine, const DataSet& source, const SettingsStore& store,
-                int lastDataPage) {
+void loadEngine(AudioPlotEngine& engine, const DataSet& source, const SettingsStore& store) {
   engine.Reset();
-  for (const SoundedPoint& p : audiblePoints(source, rangeFilterFromSettings(store, lastDataPage))) {
+  for (const SoundedPoint& p : audiblePoints(source, rangeFilterFromSettings(store, source))) {
     engine.AppendPoint(p.x, p.y);
   }
   // The engine takes signed integers; a stored value is passed on bit for bit.

@@ -32,14 +32,14 @@ PointStep stepToHeardPoint(std::int32_t cursor, StepDirection direction, std::si
 
 CursorMove driveCrossingSearch(std::int32_t cursor, std::size_t repetitions, const CursorSearch& search,
                                const HeardTest& isHeard) {
+  std::int32_t at = cursor;
   for (std::size_t k = 0; k < repetitions; ++k) {
-    const std::int32_t c = cursor < 0 ? 0 : cursor;
-    const auto found = search(c);
-    // The cursor has not moved, so every further search would fail the same way.
+    const auto found = search(at);
     if (!found) break;
-    if (isHeard(*found)) return {*found, Sweep{c, *found}};
-    cursor = *found;
+    if (isHeard(*found)) return {*found, Sweep{at < 0 ? 0 : at, *found}};
+    at = *found;
   }
+  // Nothing heard ahead: the cursor stays where the user left it.
   return {cursor, std::nullopt};
 }
 
@@ -48,53 +48,49 @@ bool isHeardPoint(const DataSet& set, std::int32_t index, const RangeFilter& fil
   return inGraphRange(set.at(static_cast<std::size_t>(index)), filter);
 }
 
-PointStep singlePointStep(const DataSet& data1, std::int32_t cursor, StepDirection direction,
+PointStep singlePointStep(const DataSet& source, std::int32_t cursor, StepDirection direction,
                           const RangeFilter& filter) {
-  return stepToHeardPoint(cursor, direction, data1.count(),
-                          [&](std::int32_t i) { return isHeardPoint(data1, i, filter); });
+  return stepToHeardPoint(cursor, direction, source.count(),
+                          [&](std::int32_t i) { return isHeardPoint(source, i, filter); });
 }
 
-CursorMove crossingMove(CrossingCommand command, const DataSet& data1, const DataSet& data2,
+CursorMove crossingMove(CrossingCommand command, const DataSet& source, const DataSet& other,
                         std::int32_t cursor, const RangeFilter& filter) {
   const CursorSearch search = [&](std::int32_t c) -> std::optional<std::int32_t> {
     switch (command) {
       case CrossingCommand::NextAxis:
-        return nextAxisCrossing(data1, c);
+        return nextAxisCrossing(source, c);
       case CrossingCommand::PreviousAxis:
-        return previousAxisCrossing(data1, c);
+        return previousAxisCrossing(source, c);
       case CrossingCommand::NextCurves:
-        return nextCurveCrossing(data1, data2, c);
+        return nextCurveCrossing(source, other, c);
     }
     return std::nullopt;
   };
-  return driveCrossingSearch(cursor, data1.count(), search,
-                             [&](std::int32_t i) { return isHeardPoint(data1, i, filter); });
+  return driveCrossingSearch(cursor, source.count(), search,
+                             [&](std::int32_t i) { return isHeardPoint(source, i, filter); });
 }
 
-std::optional<Sweep> extremumSweep(DataSet& source, std::int32_t cursor, Extremum::Kind kind) {
-  const auto target = nextExtremum(source, cursor, kind);
-  if (!target) return std::nullopt;
-  return Sweep{cursor < 0 ? 0 : cursor, *target};
+CursorMove extremumMove(DataSet& source, std::int32_t cursor, Extremum::Kind kind,
+                        const RangeFilter& filter) {
+  return driveCrossingSearch(
+      cursor, source.count(), [&](std::int32_t c) { return nextExtremum(source, c, kind); },
+      [&](std::int32_t i) { return isHeardPoint(source, i, filter); });
 }
 
-SegmentPlay extremumSweepPlay(const Sweep& sweep) {
-  return {false, sweep.from, sweep.to - sweep.from};
-}
-
-SegmentPlay crossingSweepPlay(const std::vector<std::int32_t>& audible, const Sweep& sweep) {
+SegmentPlay sweepPlay(const std::vector<std::int32_t>& audible, const Sweep& sweep) {
   const std::int32_t p = audiblePosition(audible, sweep.from);
   const std::int32_t q = audiblePosition(audible, sweep.to);
   return {q < p, p, std::abs(q - p)};
 }
 
-std::optional<std::int64_t> sweepPauseMs(const Sweep& sweep, std::size_t setCount,
+std::optional<std::int64_t> sweepPauseMs(const SegmentPlay& segment, std::size_t heardCount,
                                          std::uint32_t playTimeSeconds) {
-  if (setCount == 0) return std::nullopt;
-  const double swept = std::fabs(static_cast<double>(sweep.to) - sweep.from);
+  if (heardCount == 0) return std::nullopt;
   const double whole = static_cast<double>(playTimeSeconds) * 1000.0;
-  const double pause = std::trunc(swept / static_cast<double>(setCount) * playTimeSeconds * 1000.0);
-  if (!(pause < whole)) return std::nullopt;
-  return static_cast<std::int64_t>(pause);
+  const double pause =
+      std::trunc(static_cast<double>(segment.count) / static_cast<double>(heardCount) * whole);
+  return static_cast<std::int64_t>(std::min(pause, whole));
 }
 
 }  // namespace sonalyx

@@ -22,8 +22,7 @@ inline constexpr std::int32_t kPointToneMs = 175;
 enum class StepDirection { Forward, Back };
 enum class CrossingCommand { NextAxis, PreviousAxis, NextCurves };
 
-// A search from a cursor (never -1: the caller has made that 0), and a test of
-// whether a point index is heard.
+// A search from a cursor (-1 for none), and a test of whether a point index is heard.
 using CursorSearch = std::function<std::optional<std::int32_t>(std::int32_t cursor)>;
 using HeardTest = std::function<bool(std::int32_t index)>;
 
@@ -37,40 +36,39 @@ std::optional<std::int32_t> stepCursor(std::int32_t cursor, StepDirection direct
 PointStep stepToHeardPoint(std::int32_t cursor, StepDirection direction, std::size_t count,
                            const HeardTest& isHeard);
 
-// Runs a crossing search at most `repetitions` times, moving the cursor over the
-// crossings that lie outside the graph range, until it finds a heard one; the sweep
-// then runs from the cursor of the last search to that crossing.
+// Runs a search at most `repetitions` times, passing over the features that lie
+// outside the graph range, until it finds a heard one; the sweep then runs from the
+// last feature passed over (the cursor, 0 for none, if none was) to that one. When
+// nothing heard is found the cursor stays where it was.
 CursorMove driveCrossingSearch(std::int32_t cursor, std::size_t repetitions, const CursorSearch& search,
                                const HeardTest& isHeard);
 
 // Whether point `index` of `set` exists and passes the range filter.
 bool isHeardPoint(const DataSet& set, std::int32_t index, const RangeFilter& filter);
 
-// The single-point step commands. They move over data set 1 (`data1`), whichever set
-// is being played.
-PointStep singlePointStep(const DataSet& data1, std::int32_t cursor, StepDirection direction,
+// Every command below works on the set being played (`source`).
+
+// The single-point step commands.
+PointStep singlePointStep(const DataSet& source, std::int32_t cursor, StepDirection direction,
                           const RangeFilter& filter);
 
-// The crossing commands, on data set 1 (and data set 2 for the crossing of the two).
-CursorMove crossingMove(CrossingCommand command, const DataSet& data1, const DataSet& data2,
+// The crossing commands; the crossing of two curves is that of `source` with `other`.
+CursorMove crossingMove(CrossingCommand command, const DataSet& source, const DataSet& other,
                         std::int32_t cursor, const RangeFilter& filter);
 
-// The next-maximum and next-minimum commands, on the set being played: the sweep from
-// the cursor (0 for none) to the next turning point of `kind`, or nothing.
-std::optional<Sweep> extremumSweep(DataSet& source, std::int32_t cursor, Extremum::Kind kind);
+// The next-maximum and next-minimum commands: the sweep from the cursor to the next
+// heard turning point of `kind`.
+CursorMove extremumMove(DataSet& source, std::int32_t cursor, Extremum::Kind kind, const RangeFilter& filter);
 
-// What the engine plays for an extremum sweep: the set's indices are used as engine
-// positions unchanged, even where the range filter has dropped points.
-SegmentPlay extremumSweepPlay(const Sweep& sweep);
+// What the engine plays for a sweep: the positions of both ends in the audible list
+// (0 for an end not in it), backwards when the target lies behind the cursor.
+SegmentPlay sweepPlay(const std::vector<std::int32_t>& audible, const Sweep& sweep);
 
-// What the engine plays for a crossing sweep: the positions of both ends in the audible
-// list (0 for an end not in it), backwards when the crossing lies behind the cursor.
-SegmentPlay crossingSweepPlay(const std::vector<std::int32_t>& audible, const Sweep& sweep);
-
-// The pause that keeps the cursor and speech in step with a sweep of |to - from| of
-// the set's `setCount` points: that share of the play time in whole milliseconds, or
-// nothing when it would last the whole play time (or there are no points).
-std::optional<std::int64_t> sweepPauseMs(const Sweep& sweep, std::size_t setCount,
+// The pause that keeps the cursor and speech in step with a sweep of `segment`
+// (positions in the engine's list of `heardCount` points, over which the play time
+// is spread): that share of the play time in whole milliseconds, at most the whole
+// play time; nothing when nothing is heard.
+std::optional<std::int64_t> sweepPauseMs(const SegmentPlay& segment, std::size_t heardCount,
                                          std::uint32_t playTimeSeconds);
 
 }  // namespace sonalyx

@@ -22,7 +22,7 @@ struct SoundedPoint {
 // would name the wrong point of the set.
 struct RangeFilter {
   std::uint32_t plotType = 0;  // 0 values, 1 derivative, 2 integral
-  bool polar = false;          // the polar flag of the data page used last
+  bool polar = false;          // the set's own polar flag
   bool autoScaleX = false;
   bool autoScaleY = false;
   GraphRange range;  // the xMin, xMax, yMin, yMax settings

@@ -8,7 +8,7 @@ namespace sonalyx {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kNumberBases = {"hexidecimal.", "decimal.", "octal.", "binary."};
+constexpr std::array<std::string_view, 4> kNumberBases = {"hexadecimal.", "decimal.", "octal.", "binary."};
 constexpr std::array<std::string_view, 3> kAngleModes = {"degrees.", "radians.", "grad."};
 
 template <std::size_t N>

@@ -15,8 +15,8 @@ inline constexpr std::string_view kHyperbolicUnchecked = "Hyperbolic check box: 
 inline constexpr std::string_view kInverseChecked = "Inverse check box: checked.";
 inline constexpr std::string_view kInverseUnchecked = "Inverse check box: unchecked.";
 
-// The number base announced for the base selector's index: 0 hexadecimal (spelled
-// "hexidecimal." as the dictionaries know it), 1 decimal, 2 octal, 3 binary.
+// The number base announced for the base selector's index: 0 hexadecimal,
+// 1 decimal, 2 octal, 3 binary.
 // Throws std::out_of_range for any other index.
 std::string_view numberBaseAnnouncement(int index);
 

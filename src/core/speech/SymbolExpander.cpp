@@ -32,6 +32,21 @@ std::size_t characterLength(const std::string& text, std::size_t at) {
   return length;
 }
 
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// The length of an exponent "e-007", "e+20" or "e5" at `at` right after a number's
+// digits, 0 when there is none there.
+std::size_t exponentLength(const std::string& text, std::size_t at) {
+  if (at == 0 || text[at] != 'e' || !(isDigit(text[at - 1]) || text[at - 1] == '.')) return 0;
+  std::size_t end = at + 1;
+  if (end < text.size() && (text[end] == '+' || text[end] == '-')) ++end;
+  if (end == text.size() || !isDigit(text[end])) return 0;
+  while (end < text.size() && isDigit(text[end])) ++end;
+  return end - at;
+}
+
 }  // namespace
 
 std::span<const SymbolWords> expressionSymbolTable() {
@@ -47,6 +62,8 @@ void SymbolExpander::BuildSymbolMap() {
     if (row.symbol.empty() && row.spoken.empty()) break;
     m_symbolMap.emplace(std::string(row.symbol), translateWith(m_translator, std::string(row.spoken)));
   }
+  m_timesTenTo = ' ' + translateWith(m_translator, "times ten to the") + ' ';
+  m_minus = translateWith(m_translator, "minus") + ' ';
 }
 
 void SymbolExpander::ExpandSymbols(std::string& text) const {
@@ -54,6 +71,17 @@ void SymbolExpander::ExpandSymbols(std::string& text) const {
   expanded.reserve(text.size() * 2);
   std::size_t i = 0;
   while (i < text.size()) {
+    if (const std::size_t exponent = m_symbolMap.empty() ? 0 : exponentLength(text, i); exponent > 0) {
+      // 1.5e-007 is "1.5 times ten to the minus 7", not "1.5e minus 007".
+      std::size_t digits = i + 1;
+      expanded += m_timesTenTo;
+      if (text[digits] == '-') expanded += m_minus;
+      if (text[digits] == '-' || text[digits] == '+') ++digits;
+      while (digits + 1 < i + exponent && text[digits] == '0') ++digits;
+      expanded.append(text, digits, i + exponent - digits);
+      i += exponent;
+      continue;
+    }
     const std::size_t length = characterLength(text, i);
     const std::string character = text.substr(i, length);
     const auto found = m_symbolMap.find(character);

@@ -33,7 +33,8 @@ class SymbolExpander {
   void BuildSymbolMap();
 
   // Replaces every character (a UTF-8 code point) of `text` that is a symbol of
-  // the map with its words; everything else is kept.
+  // the map with its words, and reads the exponent of a number ("1.5e-007") as
+  // "1.5 times ten to the minus 7"; everything else is kept.
   void ExpandSymbols(std::string& text) const;
 
   const std::map<std::string, std::string>& symbolMap() const { return m_symbolMap; }
@@ -42,6 +43,8 @@ class SymbolExpander {
   std::span<const SymbolWords> m_table;
   Translator m_translator;
   std::map<std::string, std::string> m_symbolMap;
+  std::string m_timesTenTo;  // " times ten to the ", translated
+  std::string m_minus;       // "minus ", translated
 };
 
 }  // namespace sonalyx

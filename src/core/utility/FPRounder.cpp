@@ -1,11 +1,6 @@
 #include "core/utility/FPRounder.h"
 
-#include <locale>
-#include <sstream>
-#include <stdexcept>
-#include <vector>
-
-#include "core/utility/DecimalText.h"
+#include <cstddef>
 
 namespace sonalyx {
 
@@ -15,46 +10,63 @@ bool isDecimalDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-std::string roundedFraction(const std::string& fraction, std::uint16_t digits) {
-  if (digits == 1) return fraction.substr(0, kDecimalSeparator.size() + 1);  // truncates on purpose
-  if (fraction.size() <= static_cast<std::size_t>(digits) + 1) return fraction;
-  std::ostringstream written;
-  // A user locale with a decimal comma must not change what is spoken.
-  written.imbue(std::locale::classic());
-  written.setf(std::ios::fixed, std::ios::floatfield);
-  written.precision(digits);
-  written << decimalToDouble(fraction);
-  // Drop the leading "0" (or the "1" of a fraction that rounded up to a whole unit).
-  return written.str().substr(1);
+// Rounds the number `whole`.`fraction` to `digits` decimals; returns its new text.
+std::string roundedNumber(std::string whole, std::string_view fraction, std::size_t digits) {
+  std::string kept(fraction.substr(0, digits));
+  if (fraction[digits] >= '5') {
+    // Add one unit in the last kept place, carrying leftwards into the whole part.
+    std::size_t i = kept.size();
+    bool carry = true;
+    while (carry && i > 0) {
+      --i;
+      if (kept[i] == '9') {
+        kept[i] = '0';
+      } else {
+        ++kept[i];
+        carry = false;
+      }
+    }
+    i = whole.size();
+    while (carry && i > 0) {
+      --i;
+      if (whole[i] == '9') {
+        whole[i] = '0';
+      } else {
+        ++whole[i];
+        carry = false;
+      }
+    }
+    if (carry) whole.insert(0, 1, '1');
+  }
+  if (kept.empty()) return whole.empty() ? "0" : whole;
+  return whole + std::string(kDecimalSeparator) + kept;
 }
 
 }  // namespace
 
 std::string FPRounder::round(const std::string& text, std::uint16_t digits) {
-  std::vector<std::string> oldNums;
-  std::vector<std::string> newNums;
-
+  std::string result;
+  result.reserve(text.size());
+  std::size_t copied = 0;  // text before this index is in `result`
   std::size_t position = 0;
   while (position < text.size()) {
     const std::size_t separator = text.find(kDecimalSeparator, position);
     if (separator == std::string::npos) break;
-    std::size_t end = separator + kDecimalSeparator.size();
+    const std::size_t fractionStart = separator + kDecimalSeparator.size();
+    std::size_t end = fractionStart;
     while (end < text.size() && isDecimalDigit(text[end])) ++end;
-    if (end > separator + kDecimalSeparator.size()) {
-      std::string fraction = text.substr(separator, end - separator);
-      newNums.push_back(roundedFraction(fraction, digits));
-      oldNums.push_back(std::move(fraction));
+    const std::size_t fractionLength = end - fractionStart;
+    if (fractionLength > digits) {
+      std::size_t wholeStart = separator;
+      while (wholeStart > copied && isDecimalDigit(text[wholeStart - 1])) --wholeStart;
+      result.append(text, copied, wholeStart - copied);
+      result += roundedNumber(text.substr(wholeStart, separator - wholeStart),
+                              std::string_view(text).substr(fractionStart, fractionLength), digits);
+      copied = end;
     }
-    position = separator + 2;
+    position = end > fractionStart ? end : fractionStart;
   }
-
-  if (oldNums.size() != newNums.size()) throw std::logic_error("oldNums.size() == newNums.size()");
-
-  std::string result = text;
-  for (std::size_t i = 0; i < oldNums.size(); ++i) {
-    const std::size_t at = result.find(oldNums[i]);
-    if (at != std::string::npos) result.replace(at, oldNums[i].size(), newNums[i]);
-  }
+  result.append(text, copied, std::string::npos);
   return result;
 }
 

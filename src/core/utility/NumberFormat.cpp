@@ -82,6 +82,8 @@ std::string pad(std::string body, const Conversion& c, bool numeric) {
 std::string formatNumber(double value, std::string_view conversion) {
   const Conversion c = parseConversion(conversion);
   if (std::isnan(value)) return pad("Error", c, false);
+  // A zero is read as zero: "-0" would be heard as "minus zero".
+  if (value == 0.0) value = 0.0;
   if (std::isinf(value)) return pad(value > 0 ? "Infinity" : "-Infinity", c, false);
 
   std::string spec = "%";

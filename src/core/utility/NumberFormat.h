@@ -8,7 +8,7 @@ namespace sonalyx {
 // Formats one double with a printf conversion ("%.10g", "%-10.10g", "%.2f" ...).
 // Exponents always carry a sign and at least three digits (1e-007,
 // 1.23456789e+011) whatever the platform's C library does, so files, clipboard
-// text and spoken numbers are the same everywhere. NaN is written "Error" and an
+// text and spoken numbers are the same everywhere. -0 is written as 0, NaN "Error" and an
 // infinity "Infinity" or "-Infinity", padded to the conversion's width like a number.
 // Supported: flags "-+ 0#", an optional width and precision, conversions g G e E f F.
 // Throws std::invalid_argument for any other conversion text.

@@ -183,29 +183,53 @@ TEST(Evaluator, DomainErrorsGiveNaNOrInfinityNotFailure) {
   }
 }
 
-TEST(Evaluator, RefusesWhatItCannotRead) {
-  const char* cases[] = {
-      "",      "   ",      "x",      "2*x",      "2x",   "2 3",   "2(3)",   "(2)(3)", "2pi",   "sin 2",
-      "sin()", "sin(1,2)", "foo(2)", "pi(2)",    "e(2)", "ee",    "SIN(1)", "Pi",     "E",     "(1+2",
-      "1+2)",  "((1)",     ")",      "()",       "1+",   "2*",    "2^",     "-",      "*2",    "/2",
-      "^2",    "!",        "2**3",   "2//3",     ".",    "1.2.3", "2e",     "2e+",    "1 000", "0x10",
-      "inf",   "nan",      "exp",    "@EEE@(1)", "1=1",  "3%",    "2,5",
+TEST(Evaluator, RefusesWhatItCannotReadAndSaysWhy) {
+  const char* empty = "The expression is empty.";
+  const char* early = "The expression ends too early.";
+  const char* bracket = "Missing closing bracket.";
+  const struct {
+    std::string expression;
+    const char* reason;
+  } cases[] = {
+      {"", empty},
+      {"   ", empty},
+      {"x", "Unknown name x."},
+      {"2*x", "Unknown name x."},
+      {"foo(2)", "Unknown name foo."},
+      {"SIN(1)", "Unknown name SIN."},
+      {"inf", "Unknown name inf."},
+      {"sin 2", "sin needs its argument in brackets."},
+      {"exp", "exp needs its argument in brackets."},
+      {"(1+2", bracket},
+      {"((1)", bracket},
+      {"sin(1", bracket},
+      {"1+", early},
+      {"2^", early},
+      {"-", early},
+      {"2x", "Unexpected \"x\"."},
+      {"0x10", "Unexpected \"x\"."},
+      {"2 3", "Unexpected \"3\"."},
+      {"1 000", "Unexpected \"000\"."},
+      {"2(3)", "Unexpected \"(\"."},
+      {"pi(2)", "Unexpected \"(\"."},
+      {"2pi", "Unexpected \"pi\"."},
+      {"sin()", "Unexpected \")\"."},
+      {"1+2)", "Unexpected \")\"."},
+      {"sin(1,2)", "Unexpected \",\"."},
+      {"2**3", "Unexpected \"*\"."},
+      {"!", "Unexpected \"!\"."},
+      {"1.2.3", "Unexpected \".3\"."},
+      {"2e+", "Unexpected \"e\"."},
+      {"\xcf\x80", "Unexpected \"\xcf\x80\"."},
+      {std::string("1+2\0+3", 6), "Unexpected \"NUL\"."},
   };
-  for (const char* expression : cases) {
+  for (const auto& c : cases) {
     double result = 42.0;
     std::string error;
-    EXPECT_FALSE(Calculate(expression, result, error)) << '"' << expression << '"';
-    EXPECT_EQ(error, "parse error") << '"' << expression << '"';
-    EXPECT_EQ(result, 42.0) << "result written for \"" << expression << '"';
+    EXPECT_FALSE(Calculate(c.expression, result, error)) << '"' << c.expression << '"';
+    EXPECT_EQ(error, c.reason) << '"' << c.expression << '"';
+    EXPECT_EQ(result, 42.0) << "result written for \"" << c.expression << '"';
   }
-}
-
-TEST(Evaluator, StopsAtAnEmbeddedNul) {
-  const std::string text("1+2\0+3", 6);
-  double result = 0.0;
-  std::string error;
-  EXPECT_FALSE(Calculate(text, result, error));
-  EXPECT_EQ(error, "parse error");
 }
 
 TEST(Evaluator, SurvivesDeepNesting) {

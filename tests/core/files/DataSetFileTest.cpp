@@ -55,36 +55,54 @@ int causeOf(const std::function<void()>& action) {
   return -1;
 }
 
-TEST(DataSetFile, EveryLineReadsAsAPoint) {
+TEST(DataSetFile, ReadsTablesAndRefusesAnythingElseByLine) {
+  const double nan = std::nan("");
+  const double inf = HUGE_VAL;
   const struct {
     const char* name;
     std::string text;
     Points points;
+    std::size_t badLine;  // 0: read
   } cases[] = {
-      {"CR LF line ends", "1 2\r\n3 4\r\n", {{1, 2}, {3, 4}}},
-      {"last line without line end", "1 2\n3 4", {{1, 2}, {3, 4}}},
-      {"blank line in the middle", "1 2\n\n3 4\n", {{1, 2}, {0, 0}, {3, 4}}},
-      {"just a line end", "\n", {{0, 0}}},
-      {"empty file", "", {}},
-      {"runs of spaces", "   -1.5     2e3  \n", {{-1.5, 2000}}},
-      {"one number", "7\n", {{7, 0}}},
-      {"a tab belongs to its word", "1\t2 3\n", {{1, 3}}},
-      {"decimal comma", "1,5 2\n", {{1, 2}}},
-      {"third word ignored", "1 2 3\n", {{1, 2}}},
-      {"trailing letters", "2.5kg 3\n", {{2.5, 3}}},
+      {"CR LF line ends", "1 2\r\n3 4\r\n", {{1, 2}, {3, 4}}, 0},
+      {"last line without line end", "1 2\n3 4", {{1, 2}, {3, 4}}, 0},
+      {"blank lines are skipped", "1 2\n\n  \t\n3 4\n", {{1, 2}, {3, 4}}, 0},
+      {"tabs, as the clipboard has them", "-1.5\t2e3\r\n", {{-1.5, 2000}}, 0},
+      {"commas, as a spreadsheet writes them", "1,2\n3, 4\n", {{1, 2}, {3, 4}}, 0},
+      {"the writer's words for missing values", "1 Error\n2 -Infinity\n", {{1, nan}, {2, -inf}}, 0},
       {"byte-order mark",
        "\xEF\xBB\xBF"
        "5 6\n",
-       {{5, 6}}},
+       {{5, 6}},
+       0},
+      {"one number", "1 2\n7\n", {}, 2},
+      {"three numbers", "1 2 3\n", {}, 1},
+      {"a heading", "x y\n1 2\n", {}, 1},
+      {"trailing letters", "1 2\n\n2.5kg 3\n", {}, 3},
+      {"decimal comma", "1,5 2\n", {}, 1},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    std::istringstream in(c.text);
-    const auto points = readDataSet(in);
-    expectPoints(points, c.points, 17);
-    for (const auto& p : points) {
-      EXPECT_TRUE(test::agreesTo(p.derivative, kAbsent, 17));
-      EXPECT_EQ(p.trend, kAbsentTrend);
+    if (c.badLine == 0) {
+      const auto points = readDataSetText(c.text);
+      expectPoints(points, c.points, 17);
+      for (const auto& p : points) EXPECT_EQ(p.trend, kAbsentTrend);
+      continue;
+    }
+    try {
+      readDataSetText(c.text);
+      ADD_FAILURE() << "read";
+    } catch (const DataSetTextError& e) {
+      EXPECT_EQ(e.line(), c.badLine);
+      EXPECT_EQ(e.what(), "Line " + std::to_string(c.badLine) + " does not hold two numbers.");
+    }
+  }
+  for (const char* empty : {"", "\n", " \r\n\t\n"}) {
+    try {
+      readDataSetText(empty);
+      ADD_FAILURE() << "read nothing from '" << empty << "'";
+    } catch (const DataSetTextError& e) {
+      EXPECT_EQ(e.problem(), DataSetTextError::NoPoints);
     }
   }
 }
@@ -111,7 +129,7 @@ TEST(DataSetFile, WritesPaddedColumnsThatReadBackToTenDigits) {
   auto value = [&] {
     return (random() % 2 == 0 ? 1.0 : -1.0) * mantissa(random) * std::pow(10.0, exponent(random));
   };
-  Points points = {{1e-7, 1e300}, {-1e300, -1e-300}, {0.0, -2.5}};
+  Points points = {{1e-7, 1e300}, {-1e300, -1e-300}, {0.0, -2.5}, {1.0, std::nan("")}};
   while (points.size() < 2000) points.push_back({value(), value()});
   std::istringstream in(writeText(pointsAt(points)));
   expectPoints(readDataSet(in), points, 10);
@@ -146,8 +164,7 @@ TEST(DataSetFileOnDisk, SavesUnderTheRuledNameAndReadsAnyName) {
   EXPECT_EQ(listing(folder.path()), std::vector<std::string>{"graph.set"});
 
   test::writeBytes(folder / "from-windows.txt", "1.5 -2\r\n\r\n3\t4\r\n5 6");
-  expectPoints(readDataSetFile((folder / "from-windows.txt").string()), {{1.5, -2}, {0, 0}, {3, 0}, {5, 6}},
-               17);
+  expectPoints(readDataSetFile((folder / "from-windows.txt").string()), {{1.5, -2}, {3, 4}, {5, 6}}, 17);
 }
 
 TEST(DataSetFileOnDisk, SaveReplacesAFileOrALinksTargetKeepingItsPermissions) {

@@ -60,13 +60,17 @@ TEST(GraphScaling, APolarSetIsScaledByItsCartesianPoints) {
   EXPECT_FALSE(dataExtent(DataSet{}, false).has_value());
 }
 
-TEST(GraphScaling, TheLabelFactorRangeFollowsTheXAutoScaleFlag) {
+TEST(GraphScaling, TheLabelFactorFollowsTheYRangeDrawn) {
   const GraphRange settings = rangeOf(-10, 10, -10, 10);
   const DataSet tall = test::pointsAt({{0, 0}, {1, 50000}});
-  // Not auto-scaled: the settings' y range -10..10; auto-scaled: the data's 0..50000.
-  EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, false, tall, false), 1.0, 14));
-  EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, true, tall, false), 1e-4, 14));
-  EXPECT_TRUE(agreesTo(graphYLabelFactor(settings, true, DataSet{}, false), 1.0, 14));
+  const struct {
+    bool autoX, autoY;
+    double factor;
+  } cases[] = {{false, false, 1.0}, {true, false, 1.0}, {false, true, 1e-4}, {true, true, 1e-4}};
+  for (const auto& c : cases) {
+    const GraphRange drawn = graphRange(settings, c.autoX, c.autoY, tall, false);
+    EXPECT_TRUE(agreesTo(graphYLabelFactor(drawn), c.factor, 14)) << c.autoX << c.autoY;
+  }
 }
 
 TEST(GraphRange, EverySetterNormalisesButAComparisonWithNaNSwapsNothing) {

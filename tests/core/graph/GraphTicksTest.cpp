@@ -119,8 +119,8 @@ TEST(GraphTicks, YLabelFactorBringsLabelsToAReadableSize) {
 }
 
 TEST(GraphTicks, TheYAxisMultiplierIsAWholePowerOfTen) {
-  // 1 / 1e-5 comes back as 99999.99999999999; a factor above 1 gives 0.
-  const double cases[][2] = {{1.0, 1}, {1e-5, 100000}, {10.0, 0}};
+  // 1 / 1e-5 comes back as 99999.99999999999; small values are read times 0.1.
+  const double cases[][2] = {{1.0, 1}, {1e-5, 100000}, {10.0, 0.1}, {1e11, 1e-11}};
   for (const auto& c : cases) EXPECT_TRUE(agreesTo(yAxisMultiplier(c[0]), c[1], 17)) << c[0];
 }
 

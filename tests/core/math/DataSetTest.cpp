@@ -70,7 +70,7 @@ TEST(DataSet, TableEditingStoresAppendsOrRefuses) {
   }
 }
 
-TEST(DataSet, GridAccumulatesItsStepOrRefusesAndKeepsTheSet) {
+TEST(DataSet, GridPlacesEachPointByItsIndexOrRefusesAndKeepsTheSet) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const std::size_t most = std::numeric_limits<std::size_t>::max();
   const struct {
@@ -98,16 +98,16 @@ TEST(DataSet, GridAccumulatesItsStepOrRefusesAndKeepsTheSet) {
       continue;
     }
     ASSERT_EQ(s.count(), c.n);
-    EXPECT_TRUE(s.extrema().empty());
     const double step = (c.x1 - c.x0) / static_cast<double>(c.n - 1);
-    double accumulated = c.x0;
-    for (std::size_t i = 0; i < c.n; ++i, accumulated += step) {
-      // Exactly the running sum, not x0 + i * step.
-      ASSERT_TRUE(agreesTo(s.getX(i), accumulated, 17)) << "point " << i;
-      EXPECT_TRUE(agreesTo(s.at(i).y, 0.0, 17));
+    for (std::size_t i = 0; i < c.n; ++i) {
+      ASSERT_TRUE(agreesTo(s.getX(i), c.x0 + static_cast<double>(i) * step, 15, 1e-12)) << "point " << i;
     }
-    EXPECT_TRUE(agreesTo(s.getX(c.n - 1), c.x1, 12, 1e-12));
+    EXPECT_EQ(s.getX(c.n - 1), c.x1) << "the last point is the end itself";
   }
+  // The middle of -10..10 is 0 itself, not the -3.6e-14 that 250 added steps give.
+  DataSet s;
+  ASSERT_TRUE(s.makeGrid(-10.0, 10.0, 501));
+  EXPECT_EQ(s.getX(250), 0.0);
 }
 
 TEST(DataSet, PolarPointsBecomeCartesian) {
@@ -123,43 +123,59 @@ TEST(DataSet, PolarPointsBecomeCartesian) {
     EXPECT_TRUE(agreesTo(s.at(i).cartY, cases[i].cartY, 14, 1e-14)) << i;
     EXPECT_TRUE(agreesTo(s.at(i).y, cases[i].radius, 17)) << "the polar values stay";
   }
+  EXPECT_TRUE(s.isPolar());
+  // An edited polar point is converted again; a refill is no longer polar.
+  ASSERT_TRUE(s.setYAt(0, 5.0));
+  EXPECT_TRUE(agreesTo(s.at(0).cartX, 5.0, 17));
+  s.assign({DataPoint{0.0, 1.0}});
+  EXPECT_FALSE(s.isPolar());
   DataSet noData = curve({kAbsent, 1.0});
   EXPECT_EQ(noData.toCartesian(), 0u);
+  EXPECT_FALSE(noData.isPolar());
   expectUnsetExtras(noData.at(1));
 }
 
-TEST(DataSet, CombinesByIndexOverAnEvenGrid) {
-  // x values are never compared: b's are ignored, and the result's spread evenly
-  // over a's range even though a's are irregular.
-  DataSet a, b;
-  const double ax[] = {6, 0, 1, 5};
-  for (std::size_t i = 0; i < 4; ++i) {
-    a.append({ax[i], double(i + 1), 1.0, double(i)});
-    b.append({100.0 * double(i), 10.0 * double(i + 1), 2.0, 4.0 * double(i)});
+TEST(DataSet, CombinesAtTheFirstSetsXInterpolatingTheSecond) {
+  const double nan = std::nan("");
+  // b is y = 10 x on x 0, 2, 4 (given out of order), derivative 10, integral 5 x^2.
+  DataSet b = pointsAt({{4, 40}, {0, 0}, {2, 20}});
+  DataSet a;
+  const double ax[] = {3, -1, 0, 2, 4, 5};
+  for (double x : ax) a.append({x, 1.0, 1.0, 1.0});
+  for (std::size_t i = 0; i < 3; ++i) {
+    b.setDerivative(i, 10.0);
+    b.setIntegral(i, 5.0 * b.getX(i) * b.getX(i));
   }
   const struct {
     bool add;
-    double y[4], derivative, integral[4];
-  } cases[] = {{true, {11, 22, 33, 44}, 3, {0, 5, 10, 15}},
-               {false, {-9, -18, -27, -36}, -1, {0, -3, -6, -9}}};
+    double y[6];
+    double derivative[6];
+  } cases[] = {
+      // Set 1's x kept; x 3 lies between b's 2 and 4; -1 and 5 are outside b: gaps.
+      {true, {31, nan, 1, 21, 41, nan}, {11, nan, 11, 11, 11, nan}},
+      {false, {-29, nan, 1, -19, -39, nan}, {-9, nan, -9, -9, -9, nan}},
+  };
   for (const auto& c : cases) {
     DataSet result = curve({7.0});
     DataSet::combine(result, a, b, c.add);
-    ASSERT_EQ(result.count(), 4u);
-    for (std::size_t i = 0; i < 4; ++i) {
+    ASSERT_EQ(result.count(), 6u);
+    for (std::size_t i = 0; i < 6; ++i) {
       const DataPoint& p = result.at(i);
-      EXPECT_TRUE(agreesTo(p.x, 2.0 * double(i), 15)) << i;
+      EXPECT_TRUE(agreesTo(p.x, ax[i], 17)) << i;
       EXPECT_TRUE(agreesTo(p.y, c.y[i], 15)) << i;
-      EXPECT_TRUE(agreesTo(p.derivative, c.derivative, 15)) << i;
-      EXPECT_TRUE(agreesTo(p.integral, c.integral[i], 15)) << i;
+      EXPECT_TRUE(agreesTo(p.derivative, c.derivative[i], 15)) << i;
       EXPECT_EQ(p.trend, kAbsentTrend);
-      EXPECT_TRUE(agreesTo(p.cartX, kAbsent, 17));
     }
+    // The integral is interpolated linearly too: 5 * 2^2 + (5 * 4^2 - 5 * 2^2) / 2 at x 3.
+    EXPECT_TRUE(agreesTo(result.at(0).integral, 1.0 + (c.add ? 1 : -1) * 50.0, 15));
   }
-  // Sources that differ in count or lack data leave the result alone.
-  const std::pair<DataSet, DataSet> mismatched[] = {
-      {curve({1, 2, 3}), curve({1, 2})}, {DataSet{}, curve({1})}, {curve({1, 2}), curve({kAbsent, 2})}};
-  for (const auto& [first, second] : mismatched) {
+  // Sets of different sizes combine; sources without data leave the result alone.
+  DataSet sized = curve({7.0});
+  DataSet::combine(sized, curve({1, 2, 3}), curve({1, 2}), true);
+  EXPECT_EQ(sized.count(), 3u);
+  EXPECT_TRUE(agreesTo(sized.at(2).y, nan, 17));
+  const std::pair<DataSet, DataSet> empty[] = {{DataSet{}, curve({1})}, {curve({1, 2}), curve({kAbsent, 2})}};
+  for (const auto& [first, second] : empty) {
     DataSet result = curve({7.0});
     DataSet::combine(result, first, second, true);
     ASSERT_EQ(result.count(), 1u);
@@ -167,7 +183,7 @@ TEST(DataSet, CombinesByIndexOverAnEvenGrid) {
   }
 }
 
-TEST(DataSet, TurningPointsCountTheEndsOnlyAsMinima) {
+TEST(DataSet, TurningPointsCountTheEndsByTheirOneNeighbour) {
   constexpr auto Max = Extremum::Maximum;
   constexpr auto Min = Extremum::Minimum;
   const struct {
@@ -175,12 +191,12 @@ TEST(DataSet, TurningPointsCountTheEndsOnlyAsMinima) {
     std::vector<double> ys;
     std::vector<Extremum> extrema;
   } cases[] = {
-      {"falling into the last point", {2, 1}, {{Min, 1}}},
-      {"rising into the last point: no entry", {1, 0, 1, 2}, {{Min, 1}}},
+      {"falling", {2, 1}, {{Max, 0}, {Min, 1}}},
+      {"rising into the last point", {1, 0, 1, 2}, {{Max, 0}, {Min, 1}, {Max, 3}}},
       {"alternating", {0, 2, 1, 3, 0}, {{Min, 0}, {Max, 1}, {Min, 2}, {Max, 3}, {Min, 4}}},
       {"flat top", {0, 1, 1, 0}, {{Min, 0}, {Min, 3}}},
-      {"flat bottom", {1, 0, 0, 1}, {}},
-      {"plateau then peak", {1, 1, 2, 1}, {{Max, 2}, {Min, 3}}},
+      {"flat bottom", {1, 0, 0, 1}, {{Max, 0}, {Max, 3}}},
+      {"flat ends", {1, 1, 2, 2}, {}},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -201,13 +217,13 @@ TEST(DataSet, ChangesOfYOrCountRebuildTheTurningPoints) {
   s.setY(2, 5.0);
   EXPECT_FALSE(s.extremaValid());
   EXPECT_TRUE(s.findExtrema());
-  EXPECT_EQ(s.extrema(), (std::vector<E>{{E::Minimum, 0}}));
+  EXPECT_EQ(s.extrema(), (std::vector<E>{{E::Minimum, 0}, {E::Maximum, 2}}));
   s.append(DataPoint{3.0, 4.0});
   EXPECT_TRUE(s.findExtrema());
   EXPECT_EQ(s.extrema(), (std::vector<E>{{E::Minimum, 0}, {E::Maximum, 2}, {E::Minimum, 3}}));
   s.assign({DataPoint{0.0, 2.0}, DataPoint{1.0, 1.0}});
   EXPECT_TRUE(s.findExtrema());
-  EXPECT_EQ(s.extrema(), (std::vector<E>{{E::Minimum, 1}}));
+  EXPECT_EQ(s.extrema(), (std::vector<E>{{E::Maximum, 0}, {E::Minimum, 1}}));
   s.clear();
   EXPECT_FALSE(s.extremaValid());
   EXPECT_TRUE(s.extrema().empty());

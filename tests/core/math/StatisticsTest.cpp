@@ -24,21 +24,24 @@ struct LinesCase {
 
 TEST(Statistics, WritesTheSummaryLines) {
   const LinesCase cases[] = {
-      {"x near 1e9: the divide-by-n deviation keeps its digits",
+      {"x near 1e9: the deviations keep their digits",
        {{1e9 + 1, 0}, {1e9 + 2, 0}, {1e9 + 3, 6}},
        {"Number of points: 3", "", "Sum of x values: 3000000006", "Mean value of x: 1000000002",
-        "x standard deviation: 1", "Sample deviation: 0.8164965809", "", "Sum of y values: 6",
-        "Mean value of y: 2", "y standard deviation: 3.464101615"}},
+        "Sample standard deviation of x: 1", "Population standard deviation of x: 0.8164965809", "",
+        "Sum of y values: 6", "Mean value of y: 2", "Sample standard deviation of y: 3.464101615",
+        "Population standard deviation of y: 2.828427125"}},
       {"sums and means below 1e-11 are written as 0",
        {{-1, 2e-12}, {1 + 4e-12, -1e-12}},
        {"Number of points: 2", "", "Sum of x values: 0", "Mean value of x: 0",
-        "x standard deviation: 1.414213562", "Sample deviation: 1", "", "Sum of y values: 0",
-        "Mean value of y: 0", "y standard deviation: 0"}},
+        "Sample standard deviation of x: 1.414213562", "Population standard deviation of x: 1", "",
+        "Sum of y values: 0", "Mean value of y: 0", "Sample standard deviation of y: 0",
+        "Population standard deviation of y: 0"}},
       {"a NaN is written as the number formatting writes it",
        {{1, std::nan("")}, {2, 1}},
        {"Number of points: 2", "", "Sum of x values: 3", "Mean value of x: 1.5",
-        "x standard deviation: 0.7071067812", "Sample deviation: 0.5", "", "Sum of y values: Error",
-        "Mean value of y: Error", "y standard deviation: Error"}},
+        "Sample standard deviation of x: 0.7071067812", "Population standard deviation of x: 0.5", "",
+        "Sum of y values: Error", "Mean value of y: Error", "Sample standard deviation of y: Error",
+        "Population standard deviation of y: Error"}},
   };
   for (const auto& c : cases) {
     const DataSet set = pointsAt(c.points);

@@ -13,6 +13,8 @@ std::string toFrench(const std::string& text) {
   if (text == "Invalid entry.") return "Entrée invalide.";
   if (text == "Result : ") return "Résultat : ";
   if (text == "Expression : ") return "Expression : ";
+  if (text == "Unexpected \"%s\".") return "« %s » inattendu.";
+  if (text == "Unknown name %s.") return "Nom inconnu %s.";
   return "?" + text;
 }
 
@@ -30,14 +32,14 @@ TEST(EvaluatorSession, EnterShowsListsAndSpeaks) {
       {"a ", "2+3", "a = 2+3", true},
       {"a*2", "10", "a*2 = 10", true},
       {"1/3", "0.33333333333333", "1/3 = 0.33333333333333", true},
-      {"= 5", "Entrée invalide.", "= 5 = Entrée invalide.", true},
-      {"5 =", "Entrée invalide.", "5 = = Entrée invalide.", true},
-      {"2a = 3", "Entrée invalide.", "2a = 3 = Entrée invalide.", true},
-      {"2+*3", "Entrée invalide.", "2+*3 = Entrée invalide.", true},
+      {"= 5", "Entrée invalide. « = » inattendu.", "= 5 = Entrée invalide. « = » inattendu.", true},
+      {"5 =", "Entrée invalide. « = » inattendu.", "5 = = Entrée invalide. « = » inattendu.", true},
+      {"2a = 3", "Entrée invalide. « a » inattendu.", "2a = 3 = Entrée invalide. « a » inattendu.", true},
+      {"2+*3", "Entrée invalide. « * » inattendu.", "2+*3 = Entrée invalide. « * » inattendu.", true},
       {"a = 7", "7", "a = 7", false},
       {"b = a*a", "a*a", "b = a*a", false},
       {"b+1", "50", "b+1 = 50", true},
-      {"ab", "Entrée invalide.", "ab = Entrée invalide.", true},
+      {"ab", "Entrée invalide. Nom inconnu ab.", "ab = Entrée invalide. Nom inconnu ab.", true},
       {"sin(0)+a-e^0", "6", "sin(0)+a-e^0 = 6", true},
       {"e = 10", "10", "e = 10", false},
       {"1e3+e", "1010", "1e3+e = 1010", true},
@@ -85,8 +87,8 @@ TEST(EvaluatorSession, HistoryHoldsEvaluationsAndAssignmentsButNotLookups) {
   session.enter("x = 4");
   session.enter("x");
   EXPECT_EQ(session.enter("2").resultText, "2");
-  // Only "parse error" is the page's to reword.
-  EXPECT_EQ(session.enter("x^x").resultText, "overflow");
+  // The evaluator's reason follows "Invalid entry.".
+  EXPECT_EQ(session.enter("x^x").resultText, "Invalid entry. overflow");
   EXPECT_EQ(seen, (std::vector<std::string>{"2", "(4)^(4)"}));
   EXPECT_EQ(session.history().entries(), (std::vector<std::string>{"x = 4", "2", "x^x"}));
 

@@ -52,32 +52,27 @@ TEST(VariableSubstitution, RefusesValuesThatNeverStopReferring) {
   }
 }
 
-TEST(Assignment, SplitsAtTheFirstEquals) {
+TEST(Assignment, SplitsAtTheFirstEqualsAfterAName) {
   struct Case {
     const char* text;
-    const char* evaluatorName;  // nullptr: an expression, not an assignment
-    const char* matrixName;
+    const char* name;  // nullptr: an expression, not an assignment
     const char* value;
   };
   const Case cases[] = {
-      {"a = 2+3", "a", "a", "2+3"},       {" \tlong_name\t=  x = 1 ", "long_name", "long_name", "x = 1"},
-      {"π=3.14159", "π", "π", "3.14159"}, {"2a = 3", nullptr, "2a", "3"},
-      {"= 5", nullptr, "", "5"},          {"=5", nullptr, "", "5"},
-      {"A = ", nullptr, "A", ""},         {"5 =", nullptr, nullptr, nullptr},
-      {"a+b", nullptr, nullptr, nullptr},
+      {"a = 2+3", "a", "2+3"},       {" \tlong_name\t=  x = 1 ", "long_name", "x = 1"},
+      {"π=3.14159", "π", "3.14159"}, {"2a = 3", nullptr, ""},
+      {"= 5", nullptr, ""},          {"=5", nullptr, ""},
+      {"A = ", nullptr, ""},         {"5 =", nullptr, ""},
+      {"a+b", nullptr, ""},
   };
   for (const auto& c : cases) {
-    const auto evaluator = parseEvaluatorAssignment(c.text);
-    ASSERT_EQ(evaluator.has_value(), c.evaluatorName != nullptr) << c.text;
-    if (evaluator) {
-      EXPECT_EQ(evaluator->name, c.evaluatorName);
-      EXPECT_EQ(evaluator->value, c.value);
-    }
-    const auto matrix = parseMatrixAssignment(c.text);
-    ASSERT_EQ(matrix.has_value(), c.matrixName != nullptr) << c.text;
-    if (matrix) {
-      EXPECT_EQ(matrix->name, c.matrixName);
-      EXPECT_EQ(matrix->value, c.value);
+    // The Evaluator and the Matrix page name their variables alike.
+    for (const auto& parsed : {parseEvaluatorAssignment(c.text), parseMatrixAssignment(c.text)}) {
+      ASSERT_EQ(parsed.has_value(), c.name != nullptr) << c.text;
+      if (parsed) {
+        EXPECT_EQ(parsed->name, c.name);
+        EXPECT_EQ(parsed->value, c.value);
+      }
     }
   }
 }

@@ -91,7 +91,7 @@ TEST(EngineLoad, ResetsAppendsThenSendsTheWaveSettingsInOrderAsStored) {
   DataSet set;
   set.assign({pointOf(1, 2), pointOf(3, 0.1)});
   RecordingEngine engine;
-  loadEngine(engine, set, f.store, 1);
+  loadEngine(engine, set, f.store);
   const std::vector<std::string> expected = {
       callText("Reset"),
       appendText(1, 2),
@@ -117,57 +117,52 @@ TEST(EngineLoad, AppendsThePointsTheRangeFilterKeepsAsTheSettingsStandNow) {
   const struct {
     const char* what;
     std::function<void(const SettingsStore&)> change;
-    int lastDataPage;
     std::vector<std::string> expected;
   } cases[] = {
       {"defaults keep what lies in range, yMax included",
        [](const SettingsStore&) {},
-       1,
        {appendText(0, 0), appendText(5, 10)}},
       {"both axes auto-scaled keep everything",
        [](const SettingsStore& s) {
          s.SetBool("autoScaleX", true);
          s.SetBool("autoScaleY", true);
        },
-       1,
        {appendText(-20, -20), appendText(0, 0), appendText(5, 10), appendText(5, aboveTen),
         appendText(20, 20)}},
       {"x auto-scaled still drops y out of range",
        [](const SettingsStore& s) { s.SetBool("autoScaleX", true); },
-       1,
        {appendText(0, 0), appendText(5, 10)}},
       {"a wider graph range",
        [](const SettingsStore& s) { s.SetGraphRange(30, -30, -30, 30); },
-       1,
        {appendText(-20, -20), appendText(0, 0), appendText(5, 10), appendText(5, aboveTen),
         appendText(20, 20)}},
-      {"derivative", [](const SettingsStore& s) { s.SetInt("plotType", 1); }, 1, {appendText(0, 0)}},
-      {"polar flag of data page 1",
-       [](const SettingsStore& s) {
-         s.SetBool("data1IsPolar", true);
-         s.SetGraphRange(30, -30, -30, 30);
-       },
-       1,
-       {appendText(20, 20), appendText(-0.0f, -0.0f), appendText(-5, -10), appendText(-5, -aboveTen),
-        appendText(-20, -20)}},
-      {"data page 2 reads its own polar flag",
-       [](const SettingsStore& s) { s.SetBool("data1IsPolar", true); },
-       2,
-       {appendText(0, 0), appendText(5, 10)}},
-      {"polar flag of data page 2",
-       [](const SettingsStore& s) { s.SetBool("data2IsPolar", true); },
-       2,
-       {appendText(-0.0f, -0.0f), appendText(-5, -10)}},
+      {"derivative", [](const SettingsStore& s) { s.SetInt("plotType", 1); }, {appendText(0, 0)}},
   };
   for (const auto& c : cases) {
     Fixture f;
     c.change(f.store);
     RecordingEngine engine;
-    loadEngine(engine, set, f.store, c.lastDataPage);
+    loadEngine(engine, set, f.store);
     EXPECT_EQ(engine.appended(), c.expected) << c.what;
     ASSERT_FALSE(engine.calls.empty());
     EXPECT_EQ(engine.calls.front(), callText("Reset")) << c.what;
   }
+}
+
+TEST(EngineLoad, APolarSetIsPlayedByItsOwnCartesianPairs) {
+  // Angle 0: radius 5 is the point (5, 0), radius -20 the point (-20, 0).
+  DataSet polar;
+  polar.assign({pointOf(0, 5), pointOf(0, -20)});
+  polar.toCartesian();
+  DataSet plain;
+  plain.assign({pointOf(0, 5), pointOf(0, -20)});
+  Fixture f;
+  RecordingEngine engine;
+  loadEngine(engine, polar, f.store);
+  EXPECT_EQ(engine.appended(), std::vector<std::string>{appendText(5, 0)});
+  engine.calls.clear();
+  loadEngine(engine, plain, f.store);
+  EXPECT_EQ(engine.appended(), std::vector<std::string>{appendText(0, 5)});
 }
 
 TEST(EngineLoad, PlaysTheSetThatSetTypeSelects) {

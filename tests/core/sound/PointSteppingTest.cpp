@@ -79,8 +79,8 @@ TEST(PointStepping, CrossingCommandsMoveOverCrossingsOutOfRange) {
       {"next: the sweep starts at the last crossing passed over", CrossingCommand::NextAxis, -1, 7,
        Sweep{5, 7}},
       {"next from the heard crossing: nothing", CrossingCommand::NextAxis, 7, 7, std::nullopt},
-      {"previous from the end: passes over 4 and 2, then fails", CrossingCommand::PreviousAxis, 7, 2,
-       std::nullopt},
+      {"previous from the end: passes over 5 and 3, then fails and stays", CrossingCommand::PreviousAxis, 7,
+       7, std::nullopt},
       {"two curves with no second set", CrossingCommand::NextCurves, 0, 0, std::nullopt},
   };
   for (const auto& c : cases) {
@@ -113,7 +113,7 @@ TEST(PointStepping, ACrossingSearchRepeatsAtMostOncePerPoint) {
   };
   const CursorMove move = driveCrossingSearch(-1, 4, alwaysNext, [](std::int32_t) { return false; });
   EXPECT_EQ(searches, 4);
-  EXPECT_EQ(move.cursor, 4);
+  EXPECT_EQ(move.cursor, -1) << "nothing heard: the cursor stays";
   EXPECT_FALSE(move.sweep.has_value());
 
   const CursorSearch never = [](std::int32_t) -> std::optional<std::int32_t> { return std::nullopt; };
@@ -122,22 +122,32 @@ TEST(PointStepping, ACrossingSearchRepeatsAtMostOncePerPoint) {
   EXPECT_FALSE(failed.sweep.has_value());
 }
 
-TEST(PointStepping, ExtremumSweepsRunFromTheCursorToTheNextFeature) {
+TEST(PointStepping, ExtremumSweepsRunFromTheCursorToTheNextHeardFeature) {
   DataSet data = curve({0, 2, 1, 3, 0});  // min 0, max 1, min 2, max 3, min 4
+  const RangeFilter all = filterOf(-10, 10, -10, 10);
+  const RangeFilter belowThree = filterOf(-10, 10, -10, 2.5);
   const struct {
     std::int32_t cursor;
     Extremum::Kind kind;
-    std::optional<Sweep> expected;
+    const RangeFilter* filter;
+    CursorMove expected;
   } cases[] = {
-      {-1, Extremum::Maximum, Sweep{0, 1}}, {1, Extremum::Maximum, Sweep{1, 3}},
-      {3, Extremum::Maximum, std::nullopt}, {0, Extremum::Minimum, Sweep{0, 2}},
-      {2, Extremum::Minimum, Sweep{2, 4}},
+      {-1, Extremum::Maximum, &all, {1, Sweep{0, 1}}},
+      {1, Extremum::Maximum, &all, {3, Sweep{1, 3}}},
+      {3, Extremum::Maximum, &all, {3, std::nullopt}},
+      {-1, Extremum::Minimum, &all, {0, Sweep{0, 0}}},
+      {2, Extremum::Minimum, &all, {4, Sweep{2, 4}}},
+      // The maximum at 3 is out of range: nothing sounds and the cursor stays.
+      {1, Extremum::Maximum, &belowThree, {1, std::nullopt}},
   };
-  for (const auto& c : cases) EXPECT_EQ(extremumSweep(data, c.cursor, c.kind), c.expected) << c.cursor;
-  EXPECT_EQ(extremumSweepPlay(Sweep{1, 3}), (SegmentPlay{false, 1, 2}));
+  for (const auto& c : cases) {
+    const CursorMove move = extremumMove(data, c.cursor, c.kind, *c.filter);
+    EXPECT_EQ(move.cursor, c.expected.cursor) << c.cursor;
+    EXPECT_EQ(move.sweep, c.expected.sweep) << c.cursor;
+  }
 }
 
-TEST(PointStepping, CrossingSweepsPlayBetweenAudiblePositions) {
+TEST(PointStepping, SweepsPlayBetweenAudiblePositions) {
   const std::vector<std::int32_t> audible{0, 2, 3, 5, 8};
   const struct {
     Sweep sweep;
@@ -149,26 +159,24 @@ TEST(PointStepping, CrossingSweepsPlayBetweenAudiblePositions) {
       {{3, 3}, {false, 2, 0}},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(crossingSweepPlay(audible, c.sweep), c.expected) << c.sweep.from << " to " << c.sweep.to;
+    EXPECT_EQ(sweepPlay(audible, c.sweep), c.expected) << c.sweep.from << " to " << c.sweep.to;
   }
 }
 
 TEST(PointStepping, TheSweepPauseIsItsShareOfThePlayTime) {
   const struct {
-    Sweep sweep;
-    std::size_t count;
+    std::int32_t count;
+    std::size_t heard;
     std::uint32_t playTime;
     std::optional<std::int64_t> expected;
   } cases[] = {
-      {{0, 2}, 8, 4, 1000},         {{6, 4}, 8, 4, 1000},          // backwards lasts as long
-      {{0, 1}, 3, 4, 1333},                                        // truncated
-      {{0, 7}, 8, 4, 3500},         {{0, 8}, 8, 4, std::nullopt},  // the whole play time: no pause
-      {{0, 9}, 8, 4, std::nullopt}, {{0, 2}, 0, 4, std::nullopt},
-      {{0, 2}, 8, 0, std::nullopt}, {{3, 3}, 8, 4, 0},
+      {2, 8, 4, 1000},         {1, 3, 4, 1333},                   // truncated
+      {7, 8, 4, 3500},         {8, 8, 4, 4000}, {9, 8, 4, 4000},  // never longer than the play
+      {2, 0, 4, std::nullopt}, {2, 8, 0, 0},    {0, 8, 4, 0},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(sweepPauseMs(c.sweep, c.count, c.playTime), c.expected)
-        << c.sweep.from << " to " << c.sweep.to << " of " << c.count;
+    EXPECT_EQ(sweepPauseMs(SegmentPlay{false, 0, c.count}, c.heard, c.playTime), c.expected)
+        << c.count << " of " << c.heard;
   }
 }
 

@@ -15,7 +15,7 @@ struct AnnouncementCase {
 
 TEST(CalculatorAnnouncements, NameTheSelectorEntriesByIndex) {
   const AnnouncementCase cases[] = {
-      {numberBaseAnnouncement, 0, "hexidecimal."}, {numberBaseAnnouncement, 1, "decimal."},
+      {numberBaseAnnouncement, 0, "hexadecimal."}, {numberBaseAnnouncement, 1, "decimal."},
       {numberBaseAnnouncement, 2, "octal."},       {numberBaseAnnouncement, 3, "binary."},
       {numberBaseAnnouncement, 4, nullptr},        {numberBaseAnnouncement, -1, nullptr},
       {angleModeAnnouncement, 0, "degrees."},      {angleModeAnnouncement, 1, "radians."},

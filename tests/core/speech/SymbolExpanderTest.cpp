@@ -18,7 +18,11 @@ TEST(SymbolExpander, ReadsExpressionSymbolsAsWords) {
       {"a-b+c/d", "a minus b plus c divide d"},
       {"(x)", " open paren x close paren "},
       {"--", " minus  minus "},
-      {"1e-007", "1e minus 007"},
+      // Exponents are powers of ten; a hexadecimal E or a lone e is a letter.
+      {"1.5e-007", "1.5 times ten to the minus 7"},
+      {"2e+020*x", "2 times ten to the 20 times x"},
+      {"1e0", "1 times ten to the 0"},
+      {"1E5 e-3 1e+", "1E5 e minus 3 1e plus "},
       {"", ""},
       // Characters of several bytes are kept whole, next to symbols too.
       {"\xcf\x80*2", "\xcf\x80 times 2"},
@@ -79,7 +83,7 @@ TEST(SymbolExpander, TranslatesEachReplacementOnceWhenBuilt) {
   std::string text = "2*3-1";
   expander.ExpandSymbols(text);
   EXPECT_EQ(text, "2 mal 3 minus 1");
-  EXPECT_EQ(calls, 11);
+  EXPECT_EQ(calls, 13);  // 11 symbols, "times ten to the" and "minus"
 }
 
 }  // namespace

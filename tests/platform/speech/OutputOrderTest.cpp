@@ -47,9 +47,10 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
   using Step = std::function<void(Rig&)>;
   const Step earcon = [](Rig& r) { r.effects->PlaySoundEffect(2); };
   const Step pointTone = [](Rig& r) { r.sequencer.leadSpeech(kPointToneMs); };
-  const auto sweep = [](Sweep s, std::size_t points) {
-    return [s, points](Rig& r) {
-      if (const auto pause = sweepPauseMs(s, points, 4)) r.sequencer.leadSpeech(static_cast<double>(*pause));
+  const auto sweep = [](std::int32_t count, std::size_t points) {
+    return [count, points](Rig& r) {
+      if (const auto pause = sweepPauseMs(SegmentPlay{false, 0, count}, points, 4))
+        r.sequencer.leadSpeech(static_cast<double>(*pause));
     };
   };
   const Step wait100 = [](Rig& r) { r.output.advance(100.0); };
@@ -63,9 +64,9 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
       {"an earcon", {earcon}, 250.0},
       {"an earcon 100 ms ago", {earcon, wait100}, 150.0},
       {"a point tone", {pointTone}, 175.0},
-      {"a sweep over a quarter of the points", {sweep({10, 35}, 100)}, 1000.0},
-      {"a sweep back over a tenth", {sweep({50, 40}, 100)}, 400.0},
-      {"a sweep over all of the points", {sweep({0, 100}, 100)}, 0.0},
+      {"a sweep over a quarter of the points", {sweep(25, 100)}, 1000.0},
+      {"a sweep over a tenth", {sweep(10, 100)}, 400.0},
+      {"a sweep over all of the points", {sweep(100, 100)}, 4000.0},
       {"an earcon, then a point tone", {earcon, pointTone}, 175.0},
       {"an earcon with the effects off", {effectsOff, earcon}, 0.0},
   };
