@@ -56,7 +56,7 @@ CMainFrame::CMainFrame(CGraphCalcApp& app) : m_app(app) {
   setMenuBar(frameMenu);
 
   CAccessibilityHooks::setAccessibility(true);
-  m_hooks.Start(this, [](const QString& text) { voice::Speak(text); });
+  m_hooks.Start(this, [](const QString& text) { voice::Speak(SpeechKind::Echo, text); });
 }
 
 CMainFrame::~CMainFrame() {
@@ -117,7 +117,7 @@ void CMainFrame::onMenuSelect(const QWidget* container, QAction* action) {
   // A popup's hover is reported again by every menu above it; only the menu that
   // holds the item speaks.
   if (!action || action->isSeparator() || !container->actions().contains(action)) return;
-  voice::Speak(menuSelectText(container, action));
+  voice::Speak(SpeechKind::Echo, menuSelectText(container, action));
 }
 
 void CMainFrame::redrawGraph() {
