@@ -103,8 +103,9 @@ QString CMainFrame::menuSelectText(const QWidget* container, const QAction* acti
   QString text;
   const QMenuBar* bar = menuBar();
   if (action->menu()) {
-    const qsizetype position = container->actions().indexOf(const_cast<QAction*>(action));
-    if (bar && position >= 0 && position < bar->actions().size()) text = bar->actions()[position]->text();
+    // Its own title, also for a submenu inside a popup (the menu bar holds
+    // something else at that position, or nothing).
+    text = action->text();
   } else if (bar) {
     text = textOfCommand(bar, CCommandTable::commandId(action));
   }
