@@ -137,7 +137,7 @@ int runSpeakCommand(const Arguments& args, std::ostream&) {
   applyChoices(request, voice);
   // Asked for in so many words, so it is said even with self-voicing switched off.
   voice.setEnabled(true);
-  voice.Speak(request.text);
+  voice.Speak(SpeechKind::Content, request.text);
   const auto deadline =
       std::chrono::steady_clock::now() + std::chrono::duration<double, std::milli>(kSpeechTimeoutMs);
   while (voice.engine()->isSpeaking() && std::chrono::steady_clock::now() < deadline) {

@@ -53,7 +53,7 @@ void CDirectSS::attach(OutputSequencer& sequencer) {
   sequencer.setSpeechSilencer([this] { Silence(); });
 }
 
-void CDirectSS::Speak(const std::string& text) {
+void CDirectSS::Speak(SpeechKind /*kind*/, const std::string& text) {
   if (!m_engine || !m_enabled) return;
   if (m_log) m_log->append(text);
   m_engine->speak(text, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
@@ -108,7 +108,7 @@ bool CDirectSS::GetVoices(std::vector<std::string>& list) const {
 }
 
 std::string CDirectSS::tell(std::string text) {
-  Speak(text);
+  Speak(SpeechKind::Content, text);
   return text;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/settings/SettingsStore.h"
+#include "core/speech/SpeechKind.h"
 #include "core/speech/VoiceFilter.h"
 #include "platform/sound/OutputSequencer.h"
 #include "platform/speech/SpeechEngine.h"
@@ -41,8 +42,9 @@ class CDirectSS {
   SpeechEngine* engine() const { return m_engine.get(); }
 
   // Nothing while disabled. Otherwise cuts off the current utterance and says
-  // `text` (after whatever sound leads it), writing it to the log first.
-  void Speak(const std::string& text);
+  // `text` (after whatever sound leads it), writing it to the log first. `kind`
+  // tells an echo of focus and state from content only the program knows.
+  void Speak(SpeechKind kind, const std::string& text);
   // Cuts off the current utterance; nothing while disabled.
   void Stop();
   // Cuts off the current utterance even while disabled (everything is being silenced).

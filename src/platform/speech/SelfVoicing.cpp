@@ -6,9 +6,9 @@ void setSelfVoicing(bool on, const SettingsStore& settings, CDirectSS& voice, co
   settings.SetTtsOn(on);
   if (on) {
     voice.setEnabled(true);
-    voice.Speak(translateWith(translate, "Self-voicing activated."));
+    voice.Speak(SpeechKind::Content, translateWith(translate, "Self-voicing activated."));
   } else {
-    voice.Speak(translateWith(translate, "Self-voicing deactivated."));
+    voice.Speak(SpeechKind::Content, translateWith(translate, "Self-voicing deactivated."));
     voice.setEnabled(false);
   }
 }

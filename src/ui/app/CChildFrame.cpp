@@ -312,7 +312,7 @@ void CChildFrame::OnSelfVoicing() {
 void CChildFrame::OnAutoReturn() {
   const bool on = !m_app.settings().GetIsAutoReturn();
   m_app.settings().SetIsAutoReturn(on);
-  voice::Speak(Translate(on ? "Auto return: enabled." : "Auto return: disabled."));
+  voice::Speak(SpeechKind::Content, Translate(on ? "Auto return: enabled." : "Auto return: disabled."));
 }
 
 void CChildFrame::redrawGraph() {

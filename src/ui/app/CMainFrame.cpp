@@ -56,7 +56,7 @@ CMainFrame::CMainFrame(CGraphCalcApp& app) : m_app(app) {
   setMenuBar(frameMenu);
 
   CAccessibilityHooks::setAccessibility(true);
-  m_hooks.Start(this, [](const QString& text) { voice::Speak(text); });
+  m_hooks.Start(this, [](const QString& text) { voice::Speak(SpeechKind::Echo, text); });
 }
 
 CMainFrame::~CMainFrame() {
@@ -103,8 +103,9 @@ QString CMainFrame::menuSelectText(const QWidget* container, const QAction* acti
   QString text;
   const QMenuBar* bar = menuBar();
   if (action->menu()) {
-    const qsizetype position = container->actions().indexOf(const_cast<QAction*>(action));
-    if (bar && position >= 0 && position < bar->actions().size()) text = bar->actions()[position]->text();
+    // Its own title, also for a submenu inside a popup (the menu bar holds
+    // something else at that position, or nothing).
+    text = action->text();
   } else if (bar) {
     text = textOfCommand(bar, CCommandTable::commandId(action));
   }
@@ -117,7 +118,7 @@ void CMainFrame::onMenuSelect(const QWidget* container, QAction* action) {
   // A popup's hover is reported again by every menu above it; only the menu that
   // holds the item speaks.
   if (!action || action->isSeparator() || !container->actions().contains(action)) return;
-  voice::Speak(menuSelectText(container, action));
+  voice::Speak(SpeechKind::Echo, menuSelectText(container, action));
 }
 
 void CMainFrame::redrawGraph() {

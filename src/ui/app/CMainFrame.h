@@ -34,9 +34,8 @@ class CMainFrame : public QMainWindow {
   const CAccessibilityHooks& hooks() const { return m_hooks; }
 
   // The text said when a menu item is selected: its text without "&", with
-  // ". Grayed." for a disabled item. An item that opens a popup is looked up by its
-  // position in its own menu, but always in the menu bar (so a submenu yields the
-  // menu-bar title at that position, or nothing). Separators say nothing.
+  // ". Grayed." for a disabled item. An item that opens a popup, a submenu
+  // included, says its own title. Separators say nothing.
   QString menuSelectText(const QWidget* container, const QAction* action) const;
 
  public slots:

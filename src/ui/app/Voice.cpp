@@ -10,8 +10,8 @@ CDirectSS& device() {
   return CDirectSS::instance();
 }
 
-void Speak(const QString& text) {
-  device().Speak(text.toStdString());
+void Speak(SpeechKind kind, const QString& text) {
+  device().Speak(kind, text.toStdString());
 }
 
 void Stop() {

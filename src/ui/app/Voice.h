@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx {
 class CDirectSS;
 class SettingsStore;
@@ -16,8 +18,11 @@ namespace sonalyx::ui::voice {
 CDirectSS& device();
 
 // Cuts off what is being said and says `text` (after an earcon that leads it);
-// nothing while self-voicing is off.
-void Speak(const QString& text);
+// nothing while self-voicing is off. Every caller says which kind the text is: an
+// echo of focus and state (what a control, a menu item or a tab says as the user
+// reaches or changes it) or content only the program knows (a result, a
+// coordinate, a message).
+void Speak(SpeechKind kind, const QString& text);
 // Cuts off what is being said.
 void Stop();
 // Self-voicing's switch (mirrors the setting ttsOn).

@@ -56,18 +56,18 @@ QString CTTSButton::spokenText() const {
   return text;
 }
 
-void CTTSButton::Speak() {
+void CTTSButton::Speak(SpeechKind kind) {
   const QString text = spokenText();
-  if (!text.isEmpty()) voiced::say(m_button, text);
+  if (!text.isEmpty()) voiced::say(m_button, kind, text);
 }
 
 void CTTSButton::PressFeedback() {
   if (m_toggleSound) {
     voiced::playSoundEffect(m_button->isChecked() ? 2 : 3);
-    Speak();
+    Speak(SpeechKind::Echo);
   } else if (m_pressSound) {
     voiced::playSoundEffect(4);
-    Speak();
+    Speak(SpeechKind::Echo);
   }
 }
 
@@ -75,7 +75,7 @@ bool CTTSButton::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_button && event->type() == QEvent::FocusIn) {
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && m_button->isActiveWindow())
-      Speak();
+      Speak(SpeechKind::Echo);
   }
   return QObject::eventFilter(watched, event);
 }

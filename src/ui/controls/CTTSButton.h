@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QString>
 
+#include "core/speech/SpeechKind.h"
+
 class QAbstractButton;
 
 namespace sonalyx::ui {
@@ -40,7 +42,9 @@ class CTTSButton : public QObject {
 
   // What the button says now; empty for an unchecked radio button.
   QString spokenText() const;
-  void Speak();
+  // Says spokenText() as `kind`: an echo when the user reached or changed the
+  // button, content when a page says it for a reason of its own.
+  void Speak(SpeechKind kind);
   // The earcon and the speech of a press. Clicks call it; a page calls it when it
   // presses the button on the user's behalf.
   void PressFeedback();

@@ -17,12 +17,12 @@ CTTSComboBox::CTTSComboBox(QWidget* parent) : QComboBox(parent) {
       return;
     }
     m_lastHighlighted = -1;
-    Speak();
+    Speak(SpeechKind::Echo);
   });
   connect(this, &QComboBox::highlighted, this, [this](int index) {
     if (!view() || !view()->isVisible()) return;
     m_lastHighlighted = index;
-    speakItem(index);
+    speakItem(SpeechKind::Echo, index);
   });
 }
 
@@ -37,23 +37,23 @@ QString CTTSComboBox::spokenText() const {
   return m_spokenLabel + QLatin1Char(' ') + currentText();
 }
 
-void CTTSComboBox::Speak() {
-  speakItem(currentIndex());
+void CTTSComboBox::Speak(SpeechKind kind) {
+  speakItem(kind, currentIndex());
 }
 
-void CTTSComboBox::speakItem(int index) {
+void CTTSComboBox::speakItem(SpeechKind kind, int index) {
   if (index < 0) {
-    voiced::say(this, m_spokenLabel);
+    voiced::say(this, kind, m_spokenLabel);
     return;
   }
   voiced::playSoundEffect(2);
   const QString item = itemText(index);
-  voiced::say(this, m_spokenLabel.isEmpty() ? item : m_spokenLabel + QLatin1Char(' ') + item);
+  voiced::say(this, kind, m_spokenLabel.isEmpty() ? item : m_spokenLabel + QLatin1Char(' ') + item);
 }
 
 void CTTSComboBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
-  if (voiced::isArrival(this, event)) Speak();
+  if (voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
 }
 
 }  // namespace sonalyx::ui

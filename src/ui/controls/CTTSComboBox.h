@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx::ui {
 
 // A combo box that says its label and its selection when it gets the focus and
@@ -17,13 +19,13 @@ class CTTSComboBox : public QComboBox {
   // The label alone with nothing selected, otherwise the label, a blank and the
   // selected item.
   QString spokenText() const;
-  void Speak();
+  void Speak(SpeechKind kind);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
 
  private:
-  void speakItem(int index);
+  void speakItem(SpeechKind kind, int index);
 
   QString m_spokenLabel;
   // The item last said while the list was open; choosing it says nothing more.

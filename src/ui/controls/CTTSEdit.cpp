@@ -26,20 +26,20 @@ QString CTTSEdit::spokenText() const {
   return voiced::expandSymbols(m_spokenLabel + body);
 }
 
-void CTTSEdit::Speak() {
-  voiced::say(this, spokenText());
+void CTTSEdit::Speak(SpeechKind kind) {
+  voiced::say(this, kind, spokenText());
 }
 
 void CTTSEdit::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  if (voiced::isArrival(this, event)) Speak();
+  if (voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
 }
 
 void CTTSEdit::keyPressEvent(QKeyEvent* event) {
   const QString current = text();
   switch (event->key()) {
     case Qt::Key_Backspace:
-      voiced::say(this, Translate("Backspace. ") + current.right(1));
+      voiced::say(this, SpeechKind::Echo, Translate("Backspace. ") + current.right(1));
       break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -48,12 +48,14 @@ void CTTSEdit::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Right: {
       const int step = event->key() == Qt::Key_Left ? -1 : 1;
       const int target = std::max(cursorPosition() + step, 0);
-      if (target < current.size()) voiced::say(this, voiced::expandSymbols(current.mid(target, 1)));
+      if (target < current.size())
+        voiced::say(this, SpeechKind::Echo, voiced::expandSymbols(current.mid(target, 1)));
       break;
     }
     default: {
       const QString typed = event->text();
-      if (!typed.isEmpty() && typed.at(0).isPrint()) voiced::say(this, voiced::expandSymbols(typed));
+      if (!typed.isEmpty() && typed.at(0).isPrint())
+        voiced::say(this, SpeechKind::Echo, voiced::expandSymbols(typed));
       break;
     }
   }

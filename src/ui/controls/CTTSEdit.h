@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx::ui {
 
 // An edit box that says its label and text on focus, echoes every typed character
@@ -20,7 +22,8 @@ class CTTSEdit : public QLineEdit {
 
   // The label followed directly by the text (rounded when asked), symbols as words.
   QString spokenText() const;
-  void Speak();
+  // An echo on arrival; a page that says its result box speaks content.
+  void Speak(SpeechKind kind);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;

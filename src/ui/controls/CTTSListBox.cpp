@@ -10,7 +10,7 @@ CTTSListBox::CTTSListBox(QWidget* parent) : QListWidget(parent) {
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
     // The user moves the selection while the list has the focus; the program's own
     // changes, and the selection made on arrival, say nothing here.
-    if (m_speakSelection && !m_selectingOnFocus && hasFocus() && row >= 0) SpeakItem(row);
+    if (m_speakSelection && !m_selectingOnFocus && hasFocus() && row >= 0) SpeakItem(SpeechKind::Echo, row);
   });
 }
 
@@ -19,8 +19,8 @@ QString CTTSListBox::itemSpokenText(int row) const {
   return entry ? voiced::expandSymbols(entry->text()) : QString();
 }
 
-void CTTSListBox::SpeakItem(int row) {
-  voiced::say(this, itemSpokenText(row));
+void CTTSListBox::SpeakItem(SpeechKind kind, int row) {
+  voiced::say(this, kind, itemSpokenText(row));
 }
 
 void CTTSListBox::focusInEvent(QFocusEvent* event) {
@@ -34,7 +34,7 @@ void CTTSListBox::focusInEvent(QFocusEvent* event) {
   const int row = currentRow() < 0 ? 0 : currentRow();
   setCurrentRow(row);
   m_selectingOnFocus = false;
-  SpeakItem(row);
+  SpeakItem(SpeechKind::Echo, row);
 }
 
 }  // namespace sonalyx::ui

@@ -2,6 +2,8 @@
 
 #include <QListWidget>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx::ui {
 
 // A list that selects and says its caret item when it gets the focus and, when
@@ -15,7 +17,7 @@ class CTTSListBox : public QListWidget {
   bool speakSelection() const { return m_speakSelection; }
 
   QString itemSpokenText(int row) const;
-  void SpeakItem(int row);
+  void SpeakItem(SpeechKind kind, int row);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;

@@ -24,13 +24,13 @@ QString CTTSSliderCtrl::spokenText() const {
   return QStringLiteral("%1 %2 %3").arg(m_spokenLabel).arg(value()).arg(m_spokenUnit);
 }
 
-void CTTSSliderCtrl::Speak() {
-  voiced::say(this, spokenText());
+void CTTSSliderCtrl::Speak(SpeechKind kind) {
+  voiced::say(this, kind, spokenText());
 }
 
 void CTTSSliderCtrl::focusInEvent(QFocusEvent* event) {
   QSlider::focusInEvent(event);
-  if (voiced::isArrival(this, event)) Speak();
+  if (voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
 }
 
 }  // namespace sonalyx::ui

@@ -2,6 +2,8 @@
 
 #include <QSlider>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx::ui {
 
 // A slider that says its label, its position and its unit ("Rate 50 percent.") on
@@ -17,7 +19,7 @@ class CTTSSliderCtrl : public QSlider {
   const QString& spokenUnit() const { return m_spokenUnit; }
 
   QString spokenText() const;
-  void Speak();
+  void Speak(SpeechKind kind);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;

@@ -21,13 +21,13 @@ QString CTTSStatic::spokenText() const {
   return Translate("Label. ") + (m_spokenLabel.isEmpty() ? voiced::withoutMnemonic(text()) : m_spokenLabel);
 }
 
-void CTTSStatic::Speak() {
-  voiced::say(this, spokenText());
+void CTTSStatic::Speak(SpeechKind kind) {
+  voiced::say(this, kind, spokenText());
 }
 
 void CTTSStatic::focusInEvent(QFocusEvent* event) {
   QLabel::focusInEvent(event);
-  if (voiced::isArrival(this, event)) Speak();
+  if (voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
   update();
 }
 

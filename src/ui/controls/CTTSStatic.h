@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx::ui {
 
 // A text the keyboard can stop on: on focus it says "Label. " and its spoken label
@@ -17,7 +19,7 @@ class CTTSStatic : public QLabel {
   const QString& spokenLabel() const { return m_spokenLabel; }
 
   QString spokenText() const;
-  void Speak();
+  void Speak(SpeechKind kind);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;

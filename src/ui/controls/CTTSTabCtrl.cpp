@@ -19,8 +19,8 @@ QString CTTSTabCtrl::screenText(int index) const {
   return tabText(index).left(31) + QLatin1Char(' ') + Translate("screen.");
 }
 
-void CTTSTabCtrl::Speak() {
-  if (currentIndex() >= 0) voiced::say(this, screenText(currentIndex()));
+void CTTSTabCtrl::Speak(SpeechKind kind) {
+  if (currentIndex() >= 0) voiced::say(this, kind, screenText(currentIndex()));
 }
 
 void CTTSTabCtrl::setMinimumTabWidth(int width) {
@@ -33,7 +33,7 @@ void CTTSTabCtrl::setMinimumTabWidth(int width) {
 
 void CTTSTabCtrl::focusInEvent(QFocusEvent* event) {
   QTabBar::focusInEvent(event);
-  if (isVisible() && voiced::isArrival(this, event)) Speak();
+  if (isVisible() && voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
 }
 
 QSize CTTSTabCtrl::tabSizeHint(int index) const {

@@ -2,6 +2,8 @@
 
 #include <QTabBar>
 
+#include "core/speech/SpeechKind.h"
+
 namespace sonalyx::ui {
 
 // The control panel's tabs. On focus, while shown, it says the current tab's
@@ -14,7 +16,7 @@ class CTTSTabCtrl : public QTabBar {
   // "<caption> screen." for a tab: at most 31 characters of its caption, a blank
   // and the translated "screen.".
   QString screenText(int index) const;
-  void Speak();
+  void Speak(SpeechKind kind);
 
   // Every tab is at least this wide (the panel keeps it at a fifth of its width).
   void setMinimumTabWidth(int width);

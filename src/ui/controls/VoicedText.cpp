@@ -10,9 +10,9 @@
 
 namespace sonalyx::ui::voiced {
 
-void say(QWidget* widget, const QString& text) {
+void say(QWidget* widget, SpeechKind kind, const QString& text) {
   if (widget && widget->accessibleDescription() != text) widget->setAccessibleDescription(text);
-  voice::Speak(text);
+  voice::Speak(kind, text);
 }
 
 bool isArrival(const QWidget* widget, const QFocusEvent* event) {

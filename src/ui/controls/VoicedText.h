@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "core/speech/SpeechKind.h"
+
 class QFocusEvent;
 class QWidget;
 
@@ -9,9 +11,9 @@ class QWidget;
 // reads symbols, and how it sounds an earcon.
 namespace sonalyx::ui::voiced {
 
-// Says `text` for `widget`. The text also becomes the widget's accessible
-// description, so that a screen reader finds the same words.
-void say(QWidget* widget, const QString& text);
+// Says `text` for `widget`, as `kind`. The text also becomes the widget's
+// accessible description, so that a screen reader finds the same words.
+void say(QWidget* widget, SpeechKind kind, const QString& text);
 
 // Whether a focus event brings the user to a control anew. The focus coming back
 // from a menu or a popup list is no arrival (the control never lost the user), nor

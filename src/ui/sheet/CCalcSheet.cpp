@@ -80,7 +80,7 @@ void CCalcSheet::onCurrentChanged(int index) {
   CCalcPage* arriving = page(index);
   if (!arriving) return;
   arriving->OnSetActive();
-  if (!m_programChange) voiced::say(m_tabControl, m_tabControl->screenText(index));
+  if (!m_programChange) voiced::say(m_tabControl, SpeechKind::Echo, m_tabControl->screenText(index));
 }
 
 void CCalcSheet::resizeEvent(QResizeEvent* event) {

@@ -59,7 +59,7 @@ TEST(CDirectSS, SwitchingSelfVoicingIsHeardBothWays) {
     CaptureSpeechEngine* engine = nullptr;
     auto voice = rig.voice(engine);
     EXPECT_EQ(voice->enabled(), c.storedOn);
-    voice->Speak("before");
+    voice->Speak(SpeechKind::Content, "before");
     if (c.toggle) {
       EXPECT_EQ(toggleSelfVoicing(rig.settings, *voice, french), !c.storedOn);
     } else {
@@ -67,7 +67,7 @@ TEST(CDirectSS, SwitchingSelfVoicingIsHeardBothWays) {
     }
     EXPECT_EQ(rig.settings.GetTtsOn(), !c.storedOn);
     EXPECT_EQ(voice->enabled(), !c.storedOn);
-    voice->Speak("after");
+    voice->Speak(SpeechKind::Content, "after");
     EXPECT_EQ(texts(*engine), c.expected) << c.storedOn << c.toggle;
   }
 }
@@ -123,7 +123,7 @@ TEST(CDirectSS, OffersFilteredVoicesAndDoesNothingWithoutAnEngine) {
   EXPECT_FALSE(none.SelectVoice("Sam"));
   EXPECT_FALSE(none.SetRate(50));
   EXPECT_EQ(none.ShowAboutDialog(), "");
-  none.Speak("nothing to say it with");
+  none.Speak(SpeechKind::Content, "nothing to say it with");
 }
 
 TEST(CDirectSS, TheDialogsSayWhatTheyWouldShow) {
@@ -152,15 +152,15 @@ TEST(CDirectSS, LogsEveryUtteranceItSaysOnALineOfItsOwn) {
   CaptureSpeechEngine* engine = nullptr;
   auto voice = rig.voice(engine);
   voice->setLog(std::make_unique<SpeechLog>(path.string()));
-  voice->Speak("x = 2, y = 0.333");
-  voice->Speak("two\nlines");
+  voice->Speak(SpeechKind::Content, "x = 2, y = 0.333");
+  voice->Speak(SpeechKind::Content, "two\nlines");
   // The log can be read while the program runs: every line is flushed at once.
   std::ifstream whileRunning(path);
   std::vector<std::string> lines;
   for (std::string line; std::getline(whileRunning, line);) lines.push_back(line);
   EXPECT_EQ(lines, (std::vector<std::string>{"from an earlier run", "x = 2, y = 0.333", "two lines"}));
   setSelfVoicing(false, rig.settings, *voice, {});
-  voice->Speak("unheard, so unlogged");
+  voice->Speak(SpeechKind::Content, "unheard, so unlogged");
   voice.reset();
   std::ifstream afterwards(path);
   lines.clear();

@@ -74,7 +74,7 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
     Rig rig;
     for (const auto& step : c.before) step(rig);
     const double calledAt = rig.output.nowMs();
-    rig.voice->Speak("x = 2, y = 0.333");
+    rig.voice->Speak(SpeechKind::Content, "x = 2, y = 0.333");
     ASSERT_EQ(rig.engine->utterances().size(), 1U) << c.what;
     EXPECT_TRUE(test::agreesTo(rig.engine->utterances()[0].startMs - calledAt, c.expectedDelay, 12, 1e-9))
         << c.what;
@@ -83,10 +83,10 @@ TEST(OutputOrder, SpeechWaitsForTheSoundThatLeadsIt) {
 
 TEST(OutputOrder, ANewUtteranceCutsOffTheOldAndStopSilencesEverything) {
   Rig rig;
-  rig.voice->Speak("first");
+  rig.voice->Speak(SpeechKind::Content, "first");
   rig.output.advance(40.0);
   rig.effects->PlaySoundEffect(4);
-  rig.voice->Speak("second");
+  rig.voice->Speak(SpeechKind::Content, "second");
   auto graph =
       std::make_shared<EarconSound>(std::make_shared<const std::vector<float>>(kSampleRate * kChannels));
   rig.output.play(AudioChannel::Graph, graph, 0.0, "graph");

@@ -202,7 +202,7 @@ TEST_F(Controls, ListsCombosSlidersAndTextsSayTheirContents) {
   label->setFocus(Qt::MouseFocusReason);
   EXPECT_EQ(heard(), Heard{"Label. Data 1"});
   label->setSpokenLabel("First data set");
-  label->Speak();
+  label->Speak(SpeechKind::Echo);
   EXPECT_EQ(heard(), Heard{"Label. First data set"});
 }
 
