@@ -9,6 +9,7 @@
 #include "platform/sound/OutputSequencer.h"
 #include "platform/sound/SoundEffects.h"
 #include "platform/speech/CDirectSS.h"
+#include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CAboutDlg.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CMainFrame.h"
@@ -65,6 +66,8 @@ bool CGraphCalcApp::InitInstance() {
 
   // Disabled menu items stay reachable from the keyboard so that they can be heard.
   QApplication::setStyle(new CMenuStyle());
+  // Before the first window asks for its accessible interface.
+  accessible::install();
 
   m_mainFrame = std::make_unique<CMainFrame>(*this);
 

@@ -61,7 +61,7 @@ TEST(ProgramSpeech, SaysWhatTheKeyboardDoesInOrder) {
       {"down", Qt::Key_Down, Qt::NoModifier, {"Matrices"}},
       {"the Plot submenu", Qt::Key_Down, Qt::NoModifier, {"Plot"}},
       {"into the submenu", Qt::Key_Right, Qt::NoModifier, {"Source"}},
-      {"out of the submenu", Qt::Key_Escape, Qt::NoModifier, {}},
+      {"out of the submenu", Qt::Key_Escape, Qt::NoModifier, {"Plot"}},
       {"down", Qt::Key_Down, Qt::NoModifier, {"Speech"}},
       {"the Wave submenu", Qt::Key_Down, Qt::NoModifier, {"Wave"}},
       {"up", Qt::Key_Up, Qt::NoModifier, {"Speech"}},
