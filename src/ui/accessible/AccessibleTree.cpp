@@ -23,8 +23,9 @@ namespace sonalyx::ui::accessible {
 namespace {
 
 constexpr const char* kLayoutOnly = "sonalyxLayoutOnly";
-int g_quietFocus = 0;
 constexpr const char* kPageTabList = "sonalyxPageTabList";
+// How many QuietFocus objects live.
+int g_quietFocus = 0;
 
 bool isPageTabList(const QObject* object) {
   return object && object->property(kPageTabList).toBool();
