@@ -4,10 +4,12 @@
 #include <QCursor>
 
 #include "core/speech/LanguageTable.h"
+#include "platform/qt/speech/DesktopScreenReader.h"
 #include "platform/qt/speech/SystemSpeechEngine.h"
 #include "platform/sound/OutputSequencer.h"
 #include "platform/sound/SoundEffects.h"
 #include "platform/speech/CDirectSS.h"
+#include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CAboutDlg.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CMainFrame.h"
@@ -48,6 +50,8 @@ CGraphCalcApp::CGraphCalcApp(ProgramOptions options)
 CGraphCalcApp::~CGraphCalcApp() {
   m_mainFrame.reset();
   m_soundEffects.reset();
+  if (m_screenReader && voice::device().screenReader() == m_screenReader.get())
+    voice::device().setScreenReader(nullptr);
   if (g_instance == this) g_instance = nullptr;
 }
 
@@ -62,16 +66,25 @@ bool CGraphCalcApp::InitInstance() {
 
   // Disabled menu items stay reachable from the keyboard so that they can be heard.
   QApplication::setStyle(new CMenuStyle());
+  // Before the first window asks for its accessible interface.
+  accessible::install();
 
   m_mainFrame = std::make_unique<CMainFrame>(*this);
 
   // The one voice, made once per process; its switch follows this run's settings.
   CDirectSS& voice = voice::device();
+  voice.setSettings(m_settings);
   if (!voice.engine()) {
     registerSystemSpeechEngine();
     voice.Create(OutputSequencer::instance());
   }
   voice.setEnabled(m_settings.GetTtsOn());
+  // Watched from the start, so that the first words already know whether a screen
+  // reader runs.
+  if (!voice.screenReader()) {
+    m_screenReader = std::make_unique<DesktopScreenReader>();
+    voice.setScreenReader(m_screenReader.get());
+  }
 
   QApplication::beep();
   QApplication::setOverrideCursor(Qt::WaitCursor);
