@@ -1,7 +1,10 @@
 #include "ui/app/CGraphCalcApp.h"
 
+#include "core/settings/FirstStart.h"
+
 #include <QApplication>
 #include <QCursor>
+#include <QTimer>
 
 #include "core/speech/LanguageTable.h"
 #include "platform/qt/speech/DesktopScreenReader.h"
@@ -78,6 +81,8 @@ bool CGraphCalcApp::InitInstance() {
     registerSystemSpeechEngine();
     voice.Create(OutputSequencer::instance());
   }
+  const bool firstStart = isFirstStart(m_settings);
+  if (firstStart) m_settings.SetTtsOn(true);
   voice.setEnabled(m_settings.GetTtsOn());
   // Watched from the start, so that the first words already know whether a screen
   // reader runs.
@@ -98,7 +103,24 @@ bool CGraphCalcApp::InitInstance() {
   m_mainFrame->show();
 
   QApplication::restoreOverrideCursor();
+  if (firstStart) announceFirstStart();
   return true;
+}
+
+void CGraphCalcApp::announceFirstStart() {
+  // After the window has the focus and has said where it is: said earlier, the
+  // sentence would be cut off by that echo. A window that never gets the focus
+  // (no window manager) still hears it after a moment.
+  auto* pending = new QObject(this);
+  const auto say = [pending] {
+    if (pending->property("said").toBool()) return;
+    pending->setProperty("said", true);
+    voice::Speak(SpeechKind::Content, Translate(kFirstStartSentence));
+    pending->deleteLater();
+  };
+  connect(qApp, &QApplication::focusChanged, pending,
+          [pending, say] { QTimer::singleShot(0, pending, say); });
+  QTimer::singleShot(1500, pending, say);
 }
 
 int CGraphCalcApp::ExitInstance() {

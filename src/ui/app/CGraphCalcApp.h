@@ -70,6 +70,8 @@ class CGraphCalcApp : public QObject {
 
  private:
   void onCommand(int id);
+  // Says how to switch self-voicing off, once the window has said where it is.
+  void announceFirstStart();
 
   ProgramOptions m_options;
   SettingsStore m_settings;

@@ -2,6 +2,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,14 +24,26 @@ void speakOn(const SettingsStore& store) {
 
 TEST(ProgramSpeech, AnnouncesItsTabAtStartOnlyWhenSelfVoicingIsOn) {
   const struct {
-    bool ttsOn;
+    std::optional<bool> ttsOn;  // nothing: never stored, the first start
     Heard expected;
-  } cases[] = {{true, {"Calculator screen."}}, {false, {}}};
+  } cases[] = {
+      {true, {"Calculator screen."}},
+      {false, {}},
+      {std::nullopt, {"Calculator screen.", "Self-voicing is on; Control+Q switches it off and on again."}},
+  };
   for (const auto& c : cases) {
     test::Heard heard;
-    ProgramUnderTest program([&](const SettingsStore& store) { store.SetTtsOn(c.ttsOn); });
+    ProgramUnderTest program([&](const SettingsStore& store) {
+      if (c.ttsOn) {
+        store.SetTtsOn(*c.ttsOn);
+      } else {
+        store.backend().deleteValue("ttsOn");
+      }
+    });
     ASSERT_TRUE(program.started());
-    EXPECT_EQ(heard.take(), c.expected) << c.ttsOn;
+    EXPECT_EQ(heard.take(), c.expected) << c.ttsOn.value_or(-1);
+    // The first start's choice is kept: the next start follows the stored switch.
+    EXPECT_EQ(program.settings().GetTtsOn(), c.ttsOn.value_or(true));
   }
 }
 
