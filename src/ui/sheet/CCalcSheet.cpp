@@ -9,8 +9,23 @@
 #include "ui/controls/CTTSTabCtrl.h"
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
+#include "ui/pages/plot/CPlotPage.h"
 
 namespace sonalyx::ui {
+
+namespace {
+
+// The page behind each tab; those not built yet show their caption.
+CCalcPage* createPage(int index, const QString& caption) {
+  switch (index) {
+    case CCalcSheet::kPlot:
+      return new CPlotPage(caption);
+    default:
+      return new CCaptionPage(caption);
+  }
+}
+
+}  // namespace
 
 const std::array<const char*, CCalcSheet::kPageCount>& CCalcSheet::englishCaptions() {
   static const std::array<const char*, kPageCount> captions{"Plot",   "Wave",   "Speech",    "Calculator",
@@ -23,7 +38,7 @@ CCalcSheet::CCalcSheet(QWidget* parent) : QTabWidget(parent), m_tabControl(new C
   setAccessibleName(Translate("Control panel"));
   for (int index = 0; index < kPageCount; ++index) {
     const QString caption = Translate(englishCaptions()[index]);
-    m_pages[index] = new CCaptionPage(caption);
+    m_pages[index] = createPage(index, caption);
     addTab(m_pages[index], caption);
   }
   // A screen reader meets the panel as its tabs, each holding its page.
