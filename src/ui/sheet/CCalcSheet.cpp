@@ -10,6 +10,7 @@
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
 #include "ui/pages/plot/CPlotPage.h"
+#include "ui/pages/wave/CWavePage.h"
 
 namespace sonalyx::ui {
 
@@ -20,6 +21,8 @@ CCalcPage* createPage(int index, const QString& caption) {
   switch (index) {
     case CCalcSheet::kPlot:
       return new CPlotPage(caption);
+    case CCalcSheet::kWave:
+      return new CWavePage(caption);
     default:
       return new CCaptionPage(caption);
   }
