@@ -7,8 +7,23 @@
 #include "ui/controls/CTTSTabCtrl.h"
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
+#include "ui/pages/calculator/CCalculatorPage.h"
 
 namespace sonalyx::ui {
+
+namespace {
+
+// The page behind each tab; those not built yet show their caption.
+CCalcPage* createPage(int index, const QString& caption) {
+  switch (index) {
+    case CCalcSheet::kCalculator:
+      return new CCalculatorPage(caption);
+    default:
+      return new CCaptionPage(caption);
+  }
+}
+
+}  // namespace
 
 const std::array<const char*, CCalcSheet::kPageCount>& CCalcSheet::englishCaptions() {
   static const std::array<const char*, kPageCount> captions{"Plot",   "Wave",   "Speech",    "Calculator",
@@ -21,7 +36,7 @@ CCalcSheet::CCalcSheet(QWidget* parent) : QTabWidget(parent), m_tabControl(new C
   setAccessibleName(Translate("Control panel"));
   for (int index = 0; index < kPageCount; ++index) {
     const QString caption = Translate(englishCaptions()[index]);
-    m_pages[index] = new CCaptionPage(caption);
+    m_pages[index] = createPage(index, caption);
     addTab(m_pages[index], caption);
   }
   connect(this, &QTabWidget::currentChanged, this, &CCalcSheet::onCurrentChanged);
