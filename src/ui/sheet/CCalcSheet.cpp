@@ -8,6 +8,7 @@
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
 #include "ui/pages/calculator/CCalculatorPage.h"
+#include "ui/pages/evaluator/CEvaluatorPage.h"
 
 namespace sonalyx::ui {
 
@@ -18,6 +19,8 @@ CCalcPage* createPage(int index, const QString& caption) {
   switch (index) {
     case CCalcSheet::kCalculator:
       return new CCalculatorPage(caption);
+    case CCalcSheet::kEvaluator:
+      return new CEvaluatorPage(caption);
     default:
       return new CCaptionPage(caption);
   }
