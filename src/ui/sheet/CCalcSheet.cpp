@@ -9,6 +9,7 @@
 #include "ui/pages/CCaptionPage.h"
 #include "ui/pages/calculator/CCalculatorPage.h"
 #include "ui/pages/evaluator/CEvaluatorPage.h"
+#include "ui/pages/matrix/CMatrixPage.h"
 
 namespace sonalyx::ui {
 
@@ -21,6 +22,8 @@ CCalcPage* createPage(int index, const QString& caption) {
       return new CCalculatorPage(caption);
     case CCalcSheet::kEvaluator:
       return new CEvaluatorPage(caption);
+    case CCalcSheet::kMatrix:
+      return new CMatrixPage(caption);
     default:
       return new CCaptionPage(caption);
   }
@@ -78,6 +81,10 @@ void CCalcSheet::FocusPlotGroup(PlotGroup group) {
 void CCalcSheet::FocusWaveGroup(WaveGroup group) {
   SetActivePage(kWave);
   if (currentIndex() == kWave) m_pages[kWave]->FocusGroup(group);
+}
+
+void CCalcSheet::CopyMatrix() {
+  if (currentIndex() == kMatrix) static_cast<CMatrixPage*>(m_pages[kMatrix])->CopyMatrix();
 }
 
 void CCalcSheet::setPanelFonts(const QFont& panelFont, const QFont& pageFont) {
