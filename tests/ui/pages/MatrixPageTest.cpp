@@ -81,7 +81,10 @@ TEST(MatrixPage, TypesTheGoldenLinesAndSaysEachResult) {
       if (failed) ++out;
       const bool silent = out < command.output.size() && command.output[out] == "(silent)";
       if (silent) ++out;
-      EXPECT_EQ(heard.take(), silent ? Heard{} : Heard{spoken("Matrix Expression:" + text)}) << where;
+      // An assignment that fails keeps its value in the edit and says the error alone.
+      const std::string error = "Error: Invalid matrix expression.";
+      const std::string said = failed && text != error ? error : "Matrix Expression:" + text;
+      EXPECT_EQ(heard.take(), silent ? Heard{} : Heard{spoken(said)}) << where;
       if (!arrow && !failed) {
         EXPECT_FALSE(page.matrixWindow()->matrixLayout().cells.empty()) << where;
         EXPECT_EQ(edit->selectedText(), edit->text()) << where;
