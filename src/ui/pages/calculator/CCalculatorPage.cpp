@@ -104,6 +104,16 @@ CCalculatorPage::CCalculatorPage(const QString& caption, QWidget* parent) : CCal
   showDisplay();
 }
 
+void CCalculatorPage::changeEvent(QEvent* event) {
+  CCalcPage::changeEvent(event);
+  // The display reads half as large again as the keys; it follows their size.
+  if (event->type() == QEvent::FontChange && m_display) {
+    QFont large = font();
+    if (large.pointSizeF() > 0) large.setPointSizeF(large.pointSizeF() * 1.5);
+    m_display->setFont(large);
+  }
+}
+
 void CCalculatorPage::buildControls() {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(4, 4, 4, 4);

@@ -42,6 +42,7 @@ class CCalculatorPage : public CCalcPage {
 
  protected:
   bool PreTranslateKey(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void buildControls();

@@ -22,6 +22,9 @@ namespace {
 // A picture larger than this on either side is cut there; the text on the
 // clipboard always holds the whole result.
 constexpr int kLargestPicture = 4096;
+// The matrix is set half as large again as the page's text, for the eyes that
+// still read it.
+constexpr double kTypeScale = 1.5;
 
 }  // namespace
 
@@ -45,9 +48,18 @@ void CMatrixWnd::showResult(const MatrixEngine& engine, const QString& text) {
   relayout();
 }
 
+QFont CMatrixWnd::typeface() const {
+  QFont face = font();
+  if (face.pointSizeF() > 0)
+    face.setPointSizeF(face.pointSizeF() * kTypeScale);
+  else
+    face.setPixelSize(static_cast<int>(face.pixelSize() * kTypeScale));
+  return face;
+}
+
 void CMatrixWnd::relayout() {
   if (!m_engine) return;
-  const QFontMetrics metrics(font());
+  const QFontMetrics metrics(typeface());
   TextMeasurer measurer;
   measurer.width = [&metrics](const std::string& text) {
     return metrics.horizontalAdvance(QString::fromStdString(text));
@@ -65,10 +77,11 @@ void CMatrixWnd::updateScrollBars() {
   const QSize page = viewport()->size();
   horizontalScrollBar()->setRange(0, std::max(0, contentWidth - page.width()));
   horizontalScrollBar()->setPageStep(page.width());
-  horizontalScrollBar()->setSingleStep(std::max(1, fontMetrics().horizontalAdvance(QLatin1Char('0')) * 2));
+  const QFontMetrics metrics(typeface());
+  horizontalScrollBar()->setSingleStep(std::max(1, metrics.horizontalAdvance(QLatin1Char('0')) * 2));
   verticalScrollBar()->setRange(0, std::max(0, contentHeight - page.height()));
   verticalScrollBar()->setPageStep(page.height());
-  verticalScrollBar()->setSingleStep(std::max(1, fontMetrics().height()));
+  verticalScrollBar()->setSingleStep(std::max(1, metrics.height()));
 }
 
 void CMatrixWnd::drawMatrix(QPainter& painter, const QRect& area) const {
@@ -97,7 +110,7 @@ void CMatrixWnd::drawMatrix(QPainter& painter, const QRect& area) const {
 void CMatrixWnd::paintEvent(QPaintEvent* event) {
   // The widget's backing store already buffers the painting: nothing flickers.
   QPainter painter(viewport());
-  painter.setFont(font());
+  painter.setFont(typeface());
   const QPoint scroll(horizontalScrollBar()->value(), verticalScrollBar()->value());
   painter.translate(-scroll);
   drawMatrix(painter, event->rect().translated(scroll));
@@ -123,7 +136,7 @@ void CMatrixWnd::changeEvent(QEvent* event) {
 QString CMatrixWnd::spokenText() const {
   const QString name = Translate("Matrix display");
   if (m_text.isEmpty()) return name;
-  return name + QStringLiteral(". ") + voiced::expandSymbols(m_text);
+  return name + QStringLiteral(". ") + voiced::expandSymbols(m_text).trimmed();
 }
 
 void CMatrixWnd::focusInEvent(QFocusEvent* event) {
@@ -168,7 +181,7 @@ QImage CMatrixWnd::picture() const {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  painter.setFont(font());
+  painter.setFont(typeface());
   drawMatrix(painter, QRect(QPoint(0, 0), size));
   return image;
 }

@@ -51,6 +51,8 @@ class CMatrixWnd : public QAbstractScrollArea {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  // The font the matrix is set in, which follows the page's.
+  QFont typeface() const;
   void relayout();
   void updateScrollBars();
   // Draws what of the result lies in `area` (content coordinates).
