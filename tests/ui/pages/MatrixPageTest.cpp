@@ -108,6 +108,13 @@ TEST(MatrixPage, TypesetsTheResultAndCopiesIt) {
   for (const char* line : {"A=[1,2;3,4]", "inv(A)", "ANS*A"}) enterLine(page->expressionEdit(), line);
   EXPECT_EQ(page->expressionEdit()->text(), "[1,0;0,1]");
   EXPECT_EQ(heard.take().back(), "Matrix Expression: begin matrix 1 column 0 row 0 column 1 end matrix ");
+  // A result longer than an edit holds by default stays whole, and goes on working.
+  for (const char* line : {"eye(150)", "ANS*2"}) enterLine(page->expressionEdit(), line);
+  EXPECT_EQ(page->expressionEdit()->text().size(),
+            static_cast<qsizetype>(page->session().lastAnswer().size()));
+  EXPECT_TRUE(page->expressionEdit()->text().endsWith(",2]"));
+  EXPECT_EQ(page->matrixWindow()->matrixLayout().cells.size(), 150u * 150u);
+  for (const char* line : {"A=[1,2;3,4]", "inv(A)", "ANS*A"}) enterLine(page->expressionEdit(), line);
 
   CMatrixWnd* window = page->matrixWindow();
   const MatrixLayout& layout = window->matrixLayout();

@@ -15,6 +15,8 @@ namespace sonalyx::ui {
 
 namespace {
 
+constexpr int kLongestExpression = 1 << 24;
+
 QString fromStd(const std::string& text) {
   return QString::fromStdString(text);
 }
@@ -27,6 +29,9 @@ CMatrixPage::CMatrixPage(const QString& caption, QWidget* parent)
   layout->setContentsMargins(4, 4, 4, 4);
 
   m_edit = new CTTSEdit(this);
+  // An edit holds 32767 characters unless told otherwise: too few for the text
+  // of a 100 x 100 matrix, typed, pasted or a result.
+  m_edit->setMaxLength(kLongestExpression);
   m_edit->setSpokenLabel(MatrixSession::kEditLabel);
   m_edit->setAccessibleName(Translate("Matrix expression"));
   m_edit->setAccessibleDescription(Translate(
@@ -66,8 +71,9 @@ void CMatrixPage::enter() {
   m_edit->setText(fromStd(shown.editText));
   if (shown.redraw) m_window->showResult(m_session.engine(), fromStd(m_session.lastAnswer()));
   if (shown.speech) voiced::say(m_edit, SpeechKind::Content, voiced::expandSymbols(fromStd(*shown.speech)));
-  // Selected, so that typing replaces the result or the error.
-  if (shown.selectAll) m_edit->selectAll();
+  // Selected, so that typing replaces the result or the error. (selectAll would
+  // lay a long result's text out a second time.)
+  if (shown.selectAll) m_edit->setSelection(0, static_cast<int>(m_edit->text().size()));
 }
 
 void CMatrixPage::recall(bool up) {

@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <array>
 
 #include "core/engines/MatrixEngine.h"
 #include "ui/app/CGraphCalcApp.h"
@@ -60,9 +61,19 @@ QFont CMatrixWnd::typeface() const {
 void CMatrixWnd::relayout() {
   if (!m_engine) return;
   const QFontMetrics metrics(typeface());
+  // Numbers are digits, signs, a point and an exponent's "e": each character's
+  // advance is measured once, so that 10,000 numbers take no text shaping.
+  std::array<int, 128> advance{};
+  for (int c = 32; c < 128; ++c) advance[static_cast<std::size_t>(c)] = metrics.horizontalAdvance(QChar(c));
   TextMeasurer measurer;
-  measurer.width = [&metrics](const std::string& text) {
-    return metrics.horizontalAdvance(QString::fromStdString(text));
+  measurer.width = [&metrics, &advance](const std::string& text) {
+    int width = 0;
+    for (const char c : text) {
+      const auto code = static_cast<unsigned char>(c);
+      if (code < 32 || code >= 128) return metrics.horizontalAdvance(QString::fromStdString(text));
+      width += advance[code];
+    }
+    return width;
   };
   measurer.lineHeight = metrics.height();
   m_layout = m_engine->Render(measurer);
