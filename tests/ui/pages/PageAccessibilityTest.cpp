@@ -11,8 +11,8 @@ namespace sonalyx::ui {
 namespace {
 
 // Every control of the calculation pages that the keyboard reaches (and the
-// memory indicator, which it does not) tells a screen reader its name and what it
-// is for, before anything has been said.
+// memory indicator, which it does not) tells a screen reader its name, its kind
+// and what it is for, before anything has been said.
 TEST(PageAccessibility, EveryControlHasANameAndADescription) {
   test::ProgramUnderTest program;
   ASSERT_TRUE(program.started());
@@ -33,6 +33,10 @@ TEST(PageAccessibility, EveryControlHasANameAndADescription) {
       EXPECT_FALSE(control->text(QAccessible::Name).trimmed().isEmpty()) << what.toStdString();
       EXPECT_FALSE(control->text(QAccessible::Description).trimmed().isEmpty())
           << what.toStdString() << " " << control->text(QAccessible::Name).toStdString();
+      // A pane or filler tells a screen reader nothing of what the control is.
+      const QAccessible::Role role = control->role();
+      EXPECT_TRUE(role != QAccessible::Client && role != QAccessible::Pane && role != QAccessible::NoRole)
+          << what.toStdString() << " role " << role;
     }
     EXPECT_GE(controls, index == CCalcSheet::kCalculator ? 59 : 2) << index;
   }

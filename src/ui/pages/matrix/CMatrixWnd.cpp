@@ -1,5 +1,6 @@
 #include "ui/pages/matrix/CMatrixWnd.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -27,9 +28,21 @@ constexpr int kLargestPicture = 4096;
 // still read it.
 constexpr double kTypeScale = 1.5;
 
+// To a screen reader the window is a picture (of the result), not an empty pane.
+QAccessibleInterface* accessibleWindow(const QString& className, QObject* object) {
+  if (className != QLatin1String(CMatrixWnd::staticMetaObject.className()) || !object->isWidgetType())
+    return nullptr;
+  return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
+}
+
 }  // namespace
 
 CMatrixWnd::CMatrixWnd(QWidget* parent) : QAbstractScrollArea(parent) {
+  static const bool accessible = [] {
+    QAccessible::installFactory(accessibleWindow);
+    return true;
+  }();
+  (void)accessible;
   setFocusPolicy(Qt::StrongFocus);
   horizontalScrollBar()->setFocusPolicy(Qt::NoFocus);
   verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
