@@ -106,7 +106,9 @@ std::vector<std::string> calculatorKeysFor(int commandId) {
 CalcKeyStep calculatorKeyStep(const CalcKeyInput& key, int numberBase, bool autoReturn, int focusedId) {
   using Kind = CalcKeyStep::Kind;
   using Named = CalcKeyInput::Named;
-  if (!key.command && !key.shift) {
+  // With auto return the focus goes to "=" after every key: bringing the key
+  // under it first would only be a step a screen reader follows in vain.
+  if (!key.command && !key.shift && !autoReturn) {
     if (key.named == Named::Delete) return {Kind::FocusKey, kKeyClearEntry, false};
     if (key.named == Named::Backspace) return {Kind::FocusKey, kKeyBackspace, false};
   }
@@ -120,7 +122,8 @@ CalcKeyStep calculatorKeyStep(const CalcKeyInput& key, int numberBase, bool auto
   }
   if (!key.command) {
     if (const int id = typedKey(key.typed); id != 0)
-      return isCalcKeyEnabled(id, numberBase) ? CalcKeyStep{Kind::FocusKey, id, false} : CalcKeyStep{};
+      return isCalcKeyEnabled(id, numberBase) && !autoReturn ? CalcKeyStep{Kind::FocusKey, id, false}
+                                                             : CalcKeyStep{};
   }
   const bool pressesFocused = key.named == Named::Enter || key.named == Named::Space;
   if (!autoReturn && !key.command && pressesFocused && focusedId >= kCalcCommandInverseBox &&

@@ -75,10 +75,11 @@ struct CalcKeyStep {
 
 // The page's keyboard rules, in order: Delete and Backspace bring their keys under
 // the focus; a shifted character of calculatorShiftedKeys() presses its key at
-// once (and focuses it unless auto return sends the focus to "=" anyway); a typed
-// digit, hexadecimal letter, operator, parenthesis or point brings its key under
-// the focus (unless the number base lacks it: then nothing happens at all);
-// without auto return, Enter and Space press the focused key or check box.
+// once (and focuses it); a typed digit, hexadecimal letter, operator, parenthesis
+// or point brings its key under the focus (unless the number base lacks it: then
+// nothing happens at all); Enter and Space press the focused key or check box.
+// With auto return no key is brought under the focus, since the focus goes to "="
+// after every key, and Enter and Space are left to the accelerators.
 // `focusedId` is the command id of the focused control, 0 for any other.
 CalcKeyStep calculatorKeyStep(const CalcKeyInput& key, int numberBase, bool autoReturn, int focusedId);
 

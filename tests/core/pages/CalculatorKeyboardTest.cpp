@@ -29,7 +29,8 @@ TEST(CalculatorKeyboard, StepsFollowTheRulesInOrder) {
   } cases[] = {
       {"Delete focuses CE", {Named::Delete, 0, false, false}, 10, false, 0, {Kind::FocusKey, 1094, false}},
       {"Ctrl+Delete is the accelerator's", {Named::Delete, 0, false, true}, 10, false, 0, {}},
-      {"Backspace", {Named::Backspace, 0, false, false}, 10, true, 0, {Kind::FocusKey, 1093, false}},
+      {"Backspace", {Named::Backspace, 0, false, false}, 10, false, 0, {Kind::FocusKey, 1093, false}},
+      {"with auto return the accelerator alone", {Named::Backspace, 0, false, false}, 10, true, 0, {}},
       {"Shift+R presses sqrt and focuses it", typed('R', true), 10, false, 0, {Kind::PressKey, 1117, true}},
       {"with auto return the focus goes to =", typed('R', true), 10, true, 0, {Kind::PressKey, 1117, false}},
       {"> is right shift, no key to focus", typed('>', true), 2, false, 0, {Kind::PressKey, 1169, false}},
@@ -38,6 +39,7 @@ TEST(CalculatorKeyboard, StepsFollowTheRulesInOrder) {
       {"Shift+A is nothing", typed('A', true), 16, false, 0, {}},
       {"a shifted + is still +", typed('+', true), 10, false, 0, {Kind::FocusKey, 1133, false}},
       {"a digit", typed('7'), 10, false, 0, {Kind::FocusKey, 1127, false}},
+      {"a digit with auto return", typed('7'), 10, true, 0, {}},
       {"5 in binary: nothing", typed('5'), 2, false, 0, {}},
       {"8 in octal: nothing", typed('8'), 8, false, 0, {}},
       {"7 in octal", typed('7'), 8, false, 0, {Kind::FocusKey, 1127, false}},
