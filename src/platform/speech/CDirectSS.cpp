@@ -1,5 +1,6 @@
 #include "platform/speech/CDirectSS.h"
 
+#include "core/settings/FirstStart.h"
 #include "core/speech/VoiceChoice.h"
 #include "core/speech/VoicingMode.h"
 #include "core/utility/NumberFormat.h"
@@ -17,8 +18,10 @@ std::string describe(const SpeechEngine& engine, SpeechSetting setting, const ch
 
 }  // namespace
 
+// The voice exists before the program looks at its settings: it must not store the
+// switch's default, or no start would ever be the first.
 CDirectSS::CDirectSS(SettingsStore settings)
-    : m_settings(std::move(settings)), m_enabled(m_settings.GetTtsOn()) {}
+    : m_settings(std::move(settings)), m_enabled(!isFirstStart(m_settings) && m_settings.GetTtsOn()) {}
 
 CDirectSS::~CDirectSS() {
   if (m_sequencer != nullptr) m_sequencer->setSpeechSilencer({});
