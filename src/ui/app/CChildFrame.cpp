@@ -142,6 +142,7 @@ bool CChildFrame::HasHandler(int id) {
     case cmd::kAppAbout:
     case cmd::kCloseChild:
     case cmd::kFileNew:
+    case cmd::kCopyMatrix:
       return true;
     default:
       return false;
@@ -167,6 +168,9 @@ bool CChildFrame::RuleAllows(int id) const {
       return sets[0].count() > 1 && sets[1].count() > 1 && sets[0].count() == sets[1].count();
     case cmd::kFindZeros:
       return sets[0].count() > 1;
+    case cmd::kCopyMatrix:
+      // Elsewhere Ctrl+C stays the page's (memory store) or the edit's (copy).
+      return m_sheet->currentIndex() == CCalcSheet::kMatrix;
     default:
       return true;
   }
@@ -229,6 +233,9 @@ void CChildFrame::OnCommand(int id) {
       break;
     case cmd::kAutoReturn:
       OnAutoReturn();
+      break;
+    case cmd::kCopyMatrix:
+      m_sheet->CopyMatrix();
       break;
     case cmd::kSelfVoicing:
       OnSelfVoicing();

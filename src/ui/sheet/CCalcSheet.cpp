@@ -9,6 +9,9 @@
 #include "ui/controls/CTTSTabCtrl.h"
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
+#include "ui/pages/calculator/CCalculatorPage.h"
+#include "ui/pages/evaluator/CEvaluatorPage.h"
+#include "ui/pages/matrix/CMatrixPage.h"
 #include "ui/pages/plot/CPlotPage.h"
 #include "ui/pages/wave/CWavePage.h"
 
@@ -19,6 +22,12 @@ namespace {
 // The page behind each tab; those not built yet show their caption.
 CCalcPage* createPage(int index, const QString& caption) {
   switch (index) {
+    case CCalcSheet::kCalculator:
+      return new CCalculatorPage(caption);
+    case CCalcSheet::kEvaluator:
+      return new CEvaluatorPage(caption);
+    case CCalcSheet::kMatrix:
+      return new CMatrixPage(caption);
     case CCalcSheet::kPlot:
       return new CPlotPage(caption);
     case CCalcSheet::kWave:
@@ -88,6 +97,10 @@ void CCalcSheet::FocusPlotGroup(PlotGroup group) {
 void CCalcSheet::FocusWaveGroup(WaveGroup group) {
   SetActivePage(kWave);
   if (currentIndex() == kWave) m_pages[kWave]->FocusGroup(group);
+}
+
+void CCalcSheet::CopyMatrix() {
+  if (currentIndex() == kMatrix) static_cast<CMatrixPage*>(m_pages[kMatrix])->CopyMatrix();
 }
 
 void CCalcSheet::setPanelFonts(const QFont& panelFont, const QFont& pageFont) {
