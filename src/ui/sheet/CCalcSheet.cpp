@@ -13,6 +13,7 @@
 #include "ui/pages/evaluator/CEvaluatorPage.h"
 #include "ui/pages/matrix/CMatrixPage.h"
 #include "ui/pages/plot/CPlotPage.h"
+#include "ui/pages/speech/CSpeechPage.h"
 #include "ui/pages/wave/CWavePage.h"
 
 namespace sonalyx::ui {
@@ -32,6 +33,8 @@ CCalcPage* createPage(int index, const QString& caption) {
       return new CPlotPage(caption);
     case CCalcSheet::kWave:
       return new CWavePage(caption);
+    case CCalcSheet::kSpeech:
+      return new CSpeechPage(caption);
     default:
       return new CCaptionPage(caption);
   }

@@ -15,15 +15,19 @@
 
 namespace sonalyx::test {
 
-// The control of `page` whose accessible name is `name`; fails the test when there
-// is none or more than one.
+// The control of `page` that can take the focus whose accessible name is `name`;
+// fails the test when there is none or more than one.
 template <typename T = QWidget>
 T* control(QWidget* page, const QString& name) {
   T* found = nullptr;
   int count = 0;
   for (T* each : page->findChildren<T*>()) {
+    // A combo box's open list lives in a window of its own and speaks as the box.
+    if (each->focusPolicy() == Qt::NoFocus || each->window() != page->window()) continue;
     QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(each);
-    if (iface && iface->object() == each && iface->text(QAccessible::Name) == name) found = each, ++count;
+    // A combo box's accessible name is its text; its label names it as a relation.
+    const bool named = each->accessibleName() == name || (iface && iface->text(QAccessible::Name) == name);
+    if (named) found = each, ++count;
   }
   EXPECT_EQ(count, 1) << name.toStdString();
   return found;
