@@ -311,6 +311,11 @@ TEST(Program, TheAboutBoxShowsTheProductVersionAndLinks) {
                                             "Label. Sonalyx", "Button. OK"}));
   EXPECT_TRUE(texts.contains("with Sonitrace Technology"));
   EXPECT_TRUE(texts.contains(QStringLiteral("Version ") + SONALYX_PRODUCT_VERSION));
+  EXPECT_TRUE(texts.contains("Licence: GNU General Public License, version 3 or later."));
+  const QString libraries = texts.filter("Libraries used: ").value(0);
+  for (const char* library : {"Qt 6", "eSpeak NG (GNU General Public License, version 3 or later)", "SDL 2",
+                              "FluidSynth", "libsndfile", "Eigen (Mozilla Public License, version 2.0)"})
+    EXPECT_TRUE(libraries.contains(library)) << library;
   EXPECT_TRUE(
       texts.contains("This program supplied as is.  No implied or expressed warranty exists for the "
                      "performance and function of this software."));
