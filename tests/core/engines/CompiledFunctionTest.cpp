@@ -211,6 +211,8 @@ TEST(CompiledFunction, SaysWhyItCannotRead) {
       {"sin(2)x", "Unexpected \"x\"."},
       {"2xy", "Unexpected \"xy\"."},
       {"exp(x", "Missing closing bracket."},
+      // Found by fuzzing: x written in brackets, as "cos (2)", is a call; x itself is not.
+      {"cos x!", "cos needs its argument in brackets."},
       {"x^", "The expression ends too early."},
       {"", "The expression is empty."},
   };
