@@ -6,12 +6,12 @@
 #include <string_view>
 #include <type_traits>
 
+#include "core/engines/ElementaryFunctions.h"
+#include "core/engines/ExtendedArithmetic.h"
+
 namespace sonalyx {
 
-// What one step of an expression computes. Every value the evaluator produces
-// comes from `applyOperation` or from a loop over a block that calls the same
-// inline functions, so a constant folded while parsing and the same step run over
-// a block of x values give the same bits.
+// What one step of an expression computes.
 enum class ExpressionOperation : std::uint8_t {
   Negate,
   Add,
@@ -44,10 +44,21 @@ enum class ExpressionOperation : std::uint8_t {
   Sign,
 };
 
+// The operation a function name stands for; false when it names none.
+bool findFunctionOperation(std::string_view name, ExpressionOperation& op);
+
+// The value of each operation. Every value the evaluator produces comes from
+// `apply` (a constant folded while reading) or from a loop over a block calling
+// the same inline functions (core/engines/ExpressionBlocks.h), so both give the
+// same bits. Internal linkage, as in ExtendedArithmetic.h.
 namespace expression_math {
+namespace {
+
+using extended::exactProduct;
+using extended::Extended;
 
 // Exponents this far from 0 are multiplied out rather than handed to pow.
-inline constexpr int kLargestWholeExponent = 1024;
+constexpr int kLargestWholeExponent = 1024;
 
 inline double factorial(double v) {
   if (v == std::floor(v)) {
@@ -69,57 +80,43 @@ inline double sign(double v) {
   return v;  // 0 stays 0, NaN stays NaN
 }
 
-// A value and the rounding error it carries: hi + lo, |lo| below half a unit of hi.
-struct Extended {
-  double hi;
-  double lo;
-};
+// ---- x^n for a whole n: squared up from the leading bit with every product
+// exact (hi + lo, lo left unnormalised between steps), rounded once at the end:
+// the correctly rounded power but in vanishingly rare cases, where pow is a unit
+// off in about 0.08 % of cases.
 
-// The exact product of two doubles as hi + lo (Veltkamp's split, no fused
-// multiply-add needed). Exact while the operands and the product stay well inside
-// the range of normal doubles, which `wholePower` checks.
-inline Extended exactProduct(double a, double b) {
-  constexpr double kSplitter = 134217729.0;  // 2^27 + 1
-  const double p = a * b;
-  const double ca = kSplitter * a;
-  const double aHi = ca - (ca - a);
-  const double aLo = a - aHi;
-  const double cb = kSplitter * b;
-  const double bHi = cb - (cb - b);
-  const double bLo = b - bHi;
-  return {p, ((aHi * bHi - p) + aHi * bLo + aLo * bHi) + aLo * bLo};
+inline Extended times(Extended a, double b) {
+  const Extended p = exactProduct(a.hi, b);
+  return {p.hi, p.lo + a.lo * b};
 }
 
-inline Extended multiply(Extended a, Extended b) {
-  const Extended p = exactProduct(a.hi, b.hi);
-  const double lo = p.lo + (a.hi * b.lo + a.lo * b.hi);
-  const double hi = p.hi + lo;
-  return {hi, lo - (hi - p.hi)};
+inline Extended squared(Extended a) {
+  const Extended p = exactProduct(a.hi, a.hi);
+  return {p.hi, p.lo + 2.0 * a.hi * a.lo};
 }
 
-// x^N (N >= 2) by squaring from the leading bit, each step carried to about 104
-// bits, so the result rounds once: the correctly rounded power in all but
-// vanishingly rare cases, as pow gives it, at the cost of a few multiplications.
 template <int N>
 inline Extended extendedPower(double x) {
-  if constexpr (N == 1) {
-    return {x, 0.0};
+  if constexpr (N == 2) {
+    return exactProduct(x, x);
   } else if constexpr (N % 2 == 0) {
-    const Extended half = extendedPower<N / 2>(x);
-    return multiply(half, half);
+    return squared(extendedPower<N / 2>(x));
   } else {
-    return multiply(extendedPower<N - 1>(x), Extended{x, 0.0});
+    return times(extendedPower<N - 1>(x), x);
   }
 }
 
-// The same steps for an exponent known only at run time.
+// The same steps for an exponent known only at run time (n >= 2).
 inline Extended extendedPower(double x, unsigned n) {
   int top = 31;
   while (((n >> top) & 1u) == 0) --top;
-  Extended r{x, 0.0};
+  // The leading bit and the next: x^2 or x^3.
+  --top;
+  Extended r = exactProduct(x, x);
+  if ((n >> top) & 1u) r = times(r, x);
   for (int bit = top - 1; bit >= 0; --bit) {
-    r = multiply(r, r);
-    if ((n >> bit) & 1u) r = multiply(r, Extended{x, 0.0});
+    r = squared(r);
+    if ((n >> bit) & 1u) r = times(r, x);
   }
   return r;
 }
@@ -128,13 +125,12 @@ inline Extended extendedPower(double x, unsigned n) {
 inline double reciprocal(Extended v) {
   const double q = 1.0 / v.hi;
   const Extended p = exactProduct(q, v.hi);
-  const double residue = ((1.0 - p.hi) - p.lo) - q * v.lo;  // 1 - q * v, exact to the last bits
-  return q + q * residue;
+  return q + q * (((1.0 - p.hi) - p.lo) - q * v.lo);
 }
 
 // |x| up to 2^(960 / |n|) and down to its reciprocal: there x^n and every step
-// towards it stay far from overflow and underflow, so the extended steps are
-// exact. Outside (and for 0, infinities and NaN) pow decides.
+// towards it stay far from overflow and underflow, so the products are exact.
+// Outside (and for 0, infinities and NaN) pow decides.
 constexpr double wholePowerReach(int magnitude) {
   double reach = 1.0;
   for (int k = 0; k < 960 / magnitude; ++k) reach *= 2.0;
@@ -146,13 +142,14 @@ inline bool withinWholePowerReach(double x, double reach) {
   return m <= reach && m * reach >= 1.0;
 }
 
-// Whether x^N is one multiplication or a plain value, needing no extended steps.
+// Whether x^N is a plain value or one multiplication, exact or correctly rounded
+// everywhere, with no range to check.
 constexpr bool isSimpleWholePower(int n) {
   return n >= -1 && n <= 2;
 }
 
-// x^N by the extended steps, without the check of the reach: branch-free, so a
-// loop over a block vectorises; the values outside the reach are then redone.
+// x^N by the steps above, without the check of the reach: branch-free, so a loop
+// over a block vectorises; values out of reach are then redone.
 template <int N>
 inline double wholePowerSteps(double x) {
   if constexpr (N == 0) {
@@ -162,13 +159,13 @@ inline double wholePowerSteps(double x) {
   } else if constexpr (N == -1) {
     return 1.0 / x;
   } else if constexpr (N == 2) {
-    return x * x;  // one rounding already, everywhere
+    return x * x;
   } else {
     const Extended p = extendedPower<(N < 0 ? -N : N)>(x);
     if constexpr (N < 0) {
       return reciprocal(p);
     } else {
-      return p.hi;
+      return p.hi + p.lo;
     }
   }
 }
@@ -189,7 +186,7 @@ inline double wholePowerAtRunTime(double x, int n) {
   const int magnitude = n < 0 ? -n : n;
   if (!withinWholePowerReach(x, wholePowerReach(magnitude))) return std::pow(x, static_cast<double>(n));
   const Extended p = extendedPower(x, static_cast<unsigned>(magnitude));
-  return n < 0 ? reciprocal(p) : p.hi;
+  return n < 0 ? reciprocal(p) : p.hi + p.lo;
 }
 
 // Calls `body` with std::integral_constant<int, n> when n has a fixed-exponent
@@ -268,9 +265,9 @@ inline double apply(ExpressionOperation op, double a, double b = 0.0, int n = 0)
     case Op::Factorial:
       return factorial(a);
     case Op::Sin:
-      return std::sin(a);
+      return elementary::sin(a);
     case Op::Cos:
-      return std::cos(a);
+      return elementary::cos(a);
     case Op::Tan:
       return std::tan(a);
     case Op::Asin:
@@ -278,7 +275,7 @@ inline double apply(ExpressionOperation op, double a, double b = 0.0, int n = 0)
     case Op::Acos:
       return std::acos(a);
     case Op::Atan:
-      return std::atan(a);
+      return elementary::atan(a);
     case Op::Sinh:
       return std::sinh(a);
     case Op::Cosh:
@@ -292,11 +289,11 @@ inline double apply(ExpressionOperation op, double a, double b = 0.0, int n = 0)
     case Op::Atanh:
       return std::atanh(a);
     case Op::Exp:
-      return std::exp(a);
+      return elementary::exp(a);
     case Op::Ln:
-      return std::log(a);
+      return elementary::ln(a);
     case Op::Log:
-      return std::log10(a);
+      return elementary::log(a);
     case Op::Sqrt:
       return std::sqrt(a);
     case Op::Abs:
@@ -313,10 +310,7 @@ inline double apply(ExpressionOperation op, double a, double b = 0.0, int n = 0)
   return a;
 }
 
+}  // namespace
 }  // namespace expression_math
-
-// The operation a function name stands for; false when it names none. Matched on
-// the first letter so that no text is built.
-bool findFunctionOperation(std::string_view name, ExpressionOperation& op);
 
 }  // namespace sonalyx
