@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <exception>
 #include <new>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -47,51 +48,78 @@ std::int32_t trendOf(double change) {
   return 0;  // unchanged within the tolerance, or NaN
 }
 
-// One pass over the set in chunks. Column c of a chunk of n points is the run
+// The integral at each point of a chunk from the sums of its intervals: the one
+// chain of the work, in a function of its own so that it runs in registers.
+// `magnitude` sums the parts' sizes, to tell a true 0 from rounding.
+[[gnu::noinline]] void runningIntegral(const double* sums, double* integrals, std::size_t n, double& integral,
+                                       double& magnitude) {
+  double total = integral;
+  double size = magnitude;
+  for (std::size_t j = 0; j < n; ++j) {
+    total += sums[j];
+    size += std::fabs(sums[j]);
+    // Parts that cancel leave rounding noise (-8.9e-16 for x^3 over -2..2): 0.
+    integrals[j] = std::fabs(total) <= size * 1e-14 ? 0.0 : total;
+  }
+  integral = total;
+  magnitude = size;
+}
+
+// One pass over the points in chunks. Column c of a chunk of n points is the run
 // [c * n, (c + 1) * n) of `xs` and `ys`: 0 the points, 1 and 2 the points -+ step,
-// 3 + k node k.
-void sampleInChunks(DataSet& set, const CompiledFunction& f) {
-  const std::size_t count = set.count();
+// 3 + k node k of the interval that ends at the point. The work on a chunk goes
+// column by column, so that each loop runs over independent points; only the
+// running integral is a chain.
+void sampleInChunks(std::span<DataPoint> points, const CompiledFunction& f) {
+  const std::size_t count = points.size();
   std::vector<double> xs(kValuesPerPoint * kChunk);
   std::vector<double> ys(kValuesPerPoint * kChunk);
-  std::vector<double> halfWidths(kChunk);
+  std::array<double, kChunk + 1> at{};  // the chunk's x, after the one before it
+  std::array<double, kChunk> halfWidths{};
+  std::array<double, kChunk> middles{};
+  std::array<double, kChunk> sums{};
+  std::array<double, kChunk> integrals{};
   std::vector<double> scratch;
   double integral = 0.0;
-  double magnitude = 0.0;  // of all the parts added, to tell a true 0 from rounding
+  double magnitude = 0.0;
+  double previousDerivative = 0.0;
   for (std::size_t first = 0; first < count; first += kChunk) {
     const std::size_t n = std::min(kChunk, count - first);
+    DataPoint* const p = points.data() + first;
+    // The first point ends no interval: its interval is empty and goes unused.
+    at[0] = first == 0 ? p[0].x : p[-1].x;
+    for (std::size_t j = 0; j < n; ++j) at[j + 1] = p[j].x;
     for (std::size_t j = 0; j < n; ++j) {
-      const std::size_t i = first + j;
-      const double x = set.getX(i);
+      const double x = at[j + 1];
       xs[j] = zeroTiny(x);
       xs[n + j] = zeroTiny(x - kDerivativeStep);
       xs[2 * n + j] = zeroTiny(x + kDerivativeStep);
-      // The first point ends no interval; its node values go unused.
-      const double left = i == 0 ? x : set.getX(i - 1);
-      const double h = zeroTiny((x - left) * 0.5);
-      const double m = zeroTiny((x + left) * 0.5);
-      halfWidths[j] = h;
-      for (std::size_t k = 0; k < kNodeCount; ++k) xs[(3 + k) * n + j] = h * kNodes[k] + m;
+      halfWidths[j] = zeroTiny((x - at[j]) * 0.5);
+      middles[j] = zeroTiny((x + at[j]) * 0.5);
+    }
+    for (std::size_t k = 0; k < kNodeCount; ++k) {
+      for (std::size_t j = 0; j < n; ++j) xs[(3 + k) * n + j] = halfWidths[j] * kNodes[k] + middles[j];
     }
     f.evaluate(xs.data(), ys.data(), kValuesPerPoint * n, scratch);
-    for (std::size_t j = 0; j < n; ++j) {
-      const std::size_t i = first + j;
-      set.setY(i, ys[j]);
-      set.setDerivative(i, (ys[2 * n + j] - ys[n + j]) * kDerivativeScale);
-      if (i == 0) {
-        set.setIntegral(0, 0.0);
-        continue;
-      }
-      const double h = halfWidths[j];
-      double sum = 0.0;
-      for (std::size_t k = 0; k < kNodeCount; ++k) sum += kWeights[k] * (h * ys[(3 + k) * n + j]);
-      integral += sum;
-      magnitude += std::fabs(sum);
-      // Parts that cancel leave rounding noise (-8.9e-16 for x^3 over -2..2): 0.
-      set.setIntegral(i, std::fabs(integral) <= magnitude * 1e-14 ? 0.0 : integral);
+    // Each interval's sum over its nodes, in the nodes' order; the first point's
+    // interval is empty (its nodes' values, even infinite ones, do not count).
+    for (std::size_t j = 0; j < n; ++j) sums[j] = 0.0;
+    for (std::size_t k = 0; k < kNodeCount; ++k) {
+      for (std::size_t j = 0; j < n; ++j) sums[j] += kWeights[k] * (halfWidths[j] * ys[(3 + k) * n + j]);
     }
+    if (first == 0) sums[0] = 0.0;
+    runningIntegral(sums.data(), integrals.data(), n, integral, magnitude);
+    for (std::size_t j = 0; j < n; ++j) {
+      DataPoint& point = p[j];
+      const double derivative = (ys[2 * n + j] - ys[n + j]) * kDerivativeScale;
+      point.y = ys[j];
+      point.derivative = derivative;
+      point.integral = integrals[j];
+      point.trend = trendOf(derivative - previousDerivative);
+      previousDerivative = derivative;
+    }
+    if (first == 0) p[0].trend = 0;
   }
-  FunctionSampler::setTrends(set);
 }
 
 }  // namespace
@@ -160,7 +188,7 @@ bool FunctionSampler::sampleFunction(DataSet& set, const CompiledFunction& f) {
     return false;
   }
   try {
-    sampleInChunks(set, f);
+    sampleInChunks(set.fillPoints(), f);
   } catch (const std::exception&) {
     // The buffers did not fit in memory: nothing half done is kept.
     set.clear();
