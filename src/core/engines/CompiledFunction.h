@@ -26,8 +26,8 @@ class CompiledFunction {
   static std::optional<CompiledFunction> compile(std::string_view expression, EvaluationError& error);
 
   // y[i] = f(x[i]) for i < n. `scratch` holds the registers between calls, so a
-  // caller that keeps it allocates nothing after the first call. x and y may be
-  // the same array.
+  // caller that keeps it allocates nothing after the first call. y may be x
+  // itself but must not overlap it otherwise.
   void evaluate(const double* x, double* y, std::size_t n, std::vector<double>& scratch) const;
   void evaluate(const double* x, double* y, std::size_t n) const;
   double operator()(double x) const;
