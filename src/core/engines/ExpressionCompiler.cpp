@@ -54,12 +54,42 @@ class Compiler {
     if (!sum(value)) return false;
     if (peek() != '\0' || m_pos != m_text.size()) return unexpected();
     m_code.result = value;
+    dropUnusedCode();
     return true;
   }
 
   const EvaluationError& error() const { return m_error; }
 
  private:
+  // Removes the instructions whose values the result does not use, as the code of
+  // a base raised to 0 (sin(x)^0 is 1), going back from the result through the
+  // registers each kept instruction reads. Afterwards the last instruction
+  // computes the result, which the block loops rely on.
+  void dropUnusedCode() {
+    auto& code = m_code.instructions;
+    if (m_code.result.kind != Operand::Kind::Register) {
+      code.clear();
+      return;
+    }
+    std::vector<bool> needed(static_cast<std::size_t>(m_code.registers), false);
+    std::vector<bool> kept(code.size(), false);
+    needed[m_code.result.index] = true;
+    for (std::size_t i = code.size(); i-- > 0;) {
+      const ExpressionCode::Instruction& in = code[i];
+      if (!needed[in.target]) continue;
+      kept[i] = true;
+      needed[in.target] = false;
+      for (const Operand* o : {&in.a, &in.b}) {
+        if (o->kind == Operand::Kind::Register) needed[o->index] = true;
+      }
+    }
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < code.size(); ++i) {
+      if (kept[i]) code[next++] = code[i];
+    }
+    code.resize(next);
+  }
+
   bool fail(EvaluationError::Kind kind, std::string_view subject = {}) {
     m_error.kind = kind;
     m_error.subject = std::string(subject);
