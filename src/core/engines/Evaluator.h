@@ -18,8 +18,10 @@ namespace sonalyx {
 // are ignored, names are lower case, there is no implicit multiplication.
 //
 // A value outside a function's domain is no failure: sqrt(-1) gives NaN and 1/0 an
-// infinity. Sampling calls this thousands of times per curve, so a call does not
-// touch the heap.
+// infinity. A whole power (x^3, 2^-2) is multiplied out and rounded once, as pow
+// rounds it. The reader is the one CompiledFunction uses (core/engines/
+// CompiledFunction.h), which runs an expression in x over many values at once; a
+// call here does not touch the heap.
 bool Calculate(const std::string& expression, double& result, EvaluationError& error);
 
 // The same with the reason as an English sentence ("Missing closing bracket.").

@@ -29,6 +29,11 @@ void DataSet::append(const DataPoint& point) {
   m_extremaValid = false;
 }
 
+std::span<DataPoint> DataSet::fillPoints() {
+  m_extremaValid = false;
+  return m_points;
+}
+
 double DataSet::getX(std::size_t i) const {
   return i < m_points.size() ? m_points[i].x : kAbsent;
 }

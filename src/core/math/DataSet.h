@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -26,6 +27,9 @@ class DataSet {
   // Replaces every point; the turning points must be found again.
   void assign(std::vector<DataPoint> points);
   void append(const DataPoint& point);
+  // The points to fill their values in place, as the sampler does; the turning
+  // points are due for rebuilding afterwards.
+  std::span<DataPoint> fillPoints();
 
   double getX(std::size_t i) const;  // kAbsent past the end
   // The setters return false and change nothing past the end. Any change of a y or

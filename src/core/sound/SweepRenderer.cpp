@@ -86,7 +86,9 @@ std::size_t SweepRenderer::frameAt(double position) const {
 void SweepRenderer::scheduleTicks(int numTicks) {
   const auto range = m_pan.xRange();
   if (!range) return;
-  const auto [low, high] = *range;
+  // Named copies, not a structured binding: clang before 16 cannot capture one.
+  const double low = range->first;
+  const double high = range->second;
   // Evenly spaced over the x range, both ends included; a single mark in the middle.
   const auto tickX = [&](int j) {
     if (numTicks == 1) return low + 0.5 * (high - low);
