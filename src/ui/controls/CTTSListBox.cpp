@@ -16,7 +16,8 @@ CTTSListBox::CTTSListBox(QWidget* parent) : QListWidget(parent) {
 
 QString CTTSListBox::itemSpokenText(int row) const {
   const QListWidgetItem* entry = item(row);
-  return entry ? voiced::expandSymbols(entry->text()) : QString();
+  if (!entry) return {};
+  return m_readSymbols ? voiced::expandSymbols(entry->text()) : entry->text();
 }
 
 void CTTSListBox::SpeakItem(SpeechKind kind, int row) {

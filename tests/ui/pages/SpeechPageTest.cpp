@@ -25,7 +25,7 @@ using test::control;
 // A capture voice with three voices to choose from, for the length of a test.
 class ThreeVoices {
  public:
-  ThreeVoices() { install({{"Sam", "Mary", "Mike"}, 0}); }
+  ThreeVoices() { install({{"English (America)", "English (Great Britain)", "German"}, 0}); }
   ~ThreeVoices() { install({}); }
 
  private:
@@ -84,8 +84,14 @@ TEST(SpeechPage, EveryControlStoresItsSettingAndTheVoiceFollows) {
        [&] { return number(store.GetNumDec()); },
        "7",
        {}},
-      {"Voices", Qt::Key_Down, nullptr, [&] { return store.GetVoice(); }, "Mary", {"Mary"}},
-      {"Voices", Qt::Key_Down, nullptr, [&] { return engine->currentVoice(); }, "Mike", {"Mike"}},
+      // A voice's name is said as it is written.
+      {"Voices",
+       Qt::Key_Down,
+       nullptr,
+       [&] { return store.GetVoice(); },
+       "English (Great Britain)",
+       {"English (Great Britain)"}},
+      {"Voices", Qt::Key_Down, nullptr, [&] { return engine->currentVoice(); }, "German", {"German"}},
       {"Rate", Qt::Key_Right, nullptr, [&] { return number(store.GetRate()); }, "51", {"Rate 51 percent."}},
       {"Pitch",
        Qt::Key_PageDown,
@@ -156,7 +162,7 @@ TEST(SpeechPage, EveryControlStoresItsSettingAndTheVoiceFollows) {
   store.SetPitch(70);
   speech.sheet->SetActivePage(CCalcSheet::kSpeech);
   EXPECT_EQ(control<QLineEdit>(speech.page, "Number of decimal places to voice")->text(), "7");
-  EXPECT_EQ(control<QListWidget>(speech.page, "Voices")->currentItem()->text(), "Mike");
+  EXPECT_EQ(control<QListWidget>(speech.page, "Voices")->currentItem()->text(), "German");
   EXPECT_EQ(control<QSlider>(speech.page, "Pitch")->value(), 70);
   EXPECT_EQ(control<QComboBox>(speech.page, "Beside a screen reader:")->currentIndex(), 1);
 }
@@ -197,7 +203,7 @@ TEST(SpeechPage, TheEngineButtonsTellChooseAndTeachTheVoice) {
     if (auto* box = qobject_cast<CTTSMsgBox*>(modal)) about = box->messageControl()->text();
   });
   test::press(control(speech.page, "About TTS"), Qt::Key_Space);
-  EXPECT_EQ(about, "Speech engine: Speech capture for tests. Voice: Sam.");
+  EXPECT_EQ(about, "Speech engine: Speech capture for tests. Voice: English (America).");
 
   inModal([](QWidget* modal) {
     QTest::keyClicks(test::control<QLineEdit>(modal, "Word:"), "Translate");

@@ -83,6 +83,7 @@ CSpeechPage::CSpeechPage(const QString& caption, QWidget* parent) : CSettingsPag
   auto* voiceGroup = addGroup(column(), page, "Voice");
   auto* voiceLayout = new QVBoxLayout(voiceGroup);
   m_voices = new CTTSListBox(voiceGroup);
+  m_voices->setReadSymbols(false);
   m_voices->setAccessibleName(Translate("Voices"));
   m_voices->setAccessibleDescription(Translate("The voices of the speech engine; the chosen one speaks."));
   m_voices->setMinimumHeight(80);
