@@ -206,6 +206,19 @@ std::optional<std::size_t> pointNearestX(const DataSet& set, double x) {
   return n - 1;
 }
 
+void placeCursor(GraphScene& scene, const DataSet& source, std::uint32_t plotType, std::int32_t cursor) {
+  scene.cursor.reset();
+  if (scene.empty || cursor < 0 || static_cast<std::size_t>(cursor) >= source.count()) return;
+  const auto world = plottedPoint(source.at(static_cast<std::size_t>(cursor)), plotType, source.isPolar());
+  if (!world) return;
+  const auto device = worldToDevice(*world, scene.range, scene.rect);
+  const PlotRect& rect = scene.rect;
+  if (device && device->x >= rect.left - kCursorRingDiameter &&
+      device->x <= rect.right() + kCursorRingDiameter && device->y >= rect.top - kCursorRingDiameter &&
+      device->y <= rect.bottom() + kCursorRingDiameter)
+    scene.cursor = device;
+}
+
 GraphScene buildGraphScene(const std::array<DataSet, 4>& slots, const GraphStyle& style, const PlotRect& rect,
                            std::int32_t cursor) {
   GraphScene scene;
@@ -258,17 +271,7 @@ GraphScene buildGraphScene(const std::array<DataSet, 4>& slots, const GraphStyle
     if (style.showPoints && slots[d.slot].hasData())
       addDots(slots[d.slot], style, scene.range, rect, d.dot, scene.dots);
 
-  if (cursor >= 0 && static_cast<std::size_t>(cursor) < source.count()) {
-    const auto world =
-        plottedPoint(source.at(static_cast<std::size_t>(cursor)), style.plotType, source.isPolar());
-    if (world) {
-      const auto device = worldToDevice(*world, scene.range, rect);
-      if (device && device->x >= rect.left - kCursorRingDiameter &&
-          device->x <= right + kCursorRingDiameter && device->y >= rect.top - kCursorRingDiameter &&
-          device->y <= bottom + kCursorRingDiameter)
-        scene.cursor = device;
-    }
-  }
+  placeCursor(scene, source, style.plotType, cursor);
   return scene;
 }
 

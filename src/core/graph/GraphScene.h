@@ -101,6 +101,10 @@ struct GraphScene {
 GraphScene buildGraphScene(const std::array<DataSet, 4>& slots, const GraphStyle& style, const PlotRect& rect,
                            std::int32_t cursor);
 
+// Marks point `cursor` of `source` (the set played) on a scene built for it; a
+// cursor without a point, or far outside the plot, marks nothing.
+void placeCursor(GraphScene& scene, const DataSet& source, std::uint32_t plotType, std::int32_t cursor);
+
 // The pair a point is drawn (and heard) at: (x, y), or (cartX, cartY) for a polar
 // set, for plot type 0; (x, derivative) for 1 and (x, integral) for 2. Empty when
 // a value is absent or not a number, and for any other plot type.
