@@ -25,6 +25,7 @@
 #include "ui/app/CMainFrame.h"
 #include "ui/app/CommandTable.h"
 #include "ui/app/VersionPublisher.h"
+#include "ui/graph/CPlotWnd.h"
 
 // Readable QStrings in failure messages.
 inline void PrintTo(const QString& text, std::ostream* out) {

@@ -7,6 +7,7 @@
 #include "ui/controls/CTTSTabCtrl.h"
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
+#include "ui/pages/CDataPage.h"
 
 namespace sonalyx::ui {
 
@@ -21,7 +22,10 @@ CCalcSheet::CCalcSheet(QWidget* parent) : QTabWidget(parent), m_tabControl(new C
   setAccessibleName(Translate("Control panel"));
   for (int index = 0; index < kPageCount; ++index) {
     const QString caption = Translate(englishCaptions()[index]);
-    m_pages[index] = new CCaptionPage(caption);
+    if (index == kData1 || index == kData2)
+      m_pages[index] = new CDataPage(index == kData1 ? DataSet::Data1 : DataSet::Data2, caption);
+    else
+      m_pages[index] = new CCaptionPage(caption);
     addTab(m_pages[index], caption);
   }
   connect(this, &QTabWidget::currentChanged, this, &CCalcSheet::onCurrentChanged);
