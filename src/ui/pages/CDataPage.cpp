@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <cstdlib>
 
@@ -89,7 +90,14 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
   m_table->setSpokenLabel(slot == DataSet::Data1 ? "Data set 1 table" : "Data set 2 table");
   m_table->setDataModel(m_model);
   layout->addWidget(m_table, 1);
-  connect(m_model, &CDataSetModel::edited, this, [this](const DataPageUpdate& update) { apply(update); });
+  connect(m_model, &CDataSetModel::edited, this, [this](const DataPageUpdate& update) {
+    // A refused cell is said after the table has taken the focus back and said its
+    // row, so the reason is what the user hears.
+    if (update.refused)
+      QTimer::singleShot(0, this, [this, update] { apply(update, true, false); });
+    else
+      apply(update, true, false);
+  });
 
   m_statsGroup = new QGroupBox(Translate("Statistical Description of Data Set"), this);
   auto* statsLayout = new QVBoxLayout(m_statsGroup);
@@ -196,9 +204,10 @@ void CDataPage::finishSampling(const SamplingRequest& request, SamplingResult re
   apply(update);
 }
 
-void CDataPage::apply(const DataPageUpdate& update, bool sayMessage) {
+void CDataPage::apply(const DataPageUpdate& update, bool sayMessage, bool reloadTable) {
   if (update.editText) m_expr->setText(QString::fromStdString(*update.editText));
-  if (update.setChanged) {
+  if (update.setChanged && !reloadTable) emit setChanged(slot());
+  if (update.setChanged && reloadTable) {
     // The table keeps its place where it can.
     const QModelIndex current = m_table->currentIndex();
     m_model->reload();

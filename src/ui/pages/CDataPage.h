@@ -80,8 +80,9 @@ class CDataPage : public CCalcPage {
  private:
   void startSampling(const SamplingRequest& request);
   void finishSampling(const SamplingRequest& request, SamplingResult result);
-  // Shows and says what the session answered.
-  void apply(const DataPageUpdate& update, bool sayMessage = true);
+  // Shows and says what the session answered. A cell's edit has changed the table
+  // already; everything else reloads it.
+  void apply(const DataPageUpdate& update, bool sayMessage = true, bool reloadTable = true);
   void showStatistics(bool shown);
   // With `focusList` the results list takes the focus and says its first line,
   // as on entering the view; a change of model only refills it.
