@@ -12,6 +12,7 @@
 #include "core/math/FunctionSampler.h"
 #include "core/settings/SettingsStore.h"
 #include "core/sound/EngineLoad.h"
+#include "core/sound/PlayTimeLimit.h"
 #include "platform/sound/AudioOutput.h"
 #include "platform/sound/CSNControl.h"
 
@@ -99,6 +100,7 @@ int runSonifyCommand(const Arguments& args, std::ostream& out) {
 int runPlayCommand(const Arguments& args, std::ostream& /*out*/) {
   SoundRequest request = parseSoundRequest("play", args, false);
   if (!request.set.hasData()) throw CliError::user("The data set is empty.");
+  if (!playTimeAllowed(SettingsStore::openDefault().GetPlayTime())) throw CliError::user(playTimeLimitText());
   AudioOutput& output = AudioOutput::instance();
   CSNControl engine(output);
   engine.CreateInstance();

@@ -5,9 +5,13 @@
 #include <filesystem>
 #include <string>
 
+#include "platform/speech/CDirectSS.h"
+#include "support/CaptureScreenReader.h"
+
 // One QApplication for every test, on the off-screen platform unless the caller
-// chose another. The voice writes down what it is told instead of speaking, and the
-// sound output records what it plays (earcons included) instead of using a card.
+// chose another. The voice writes down what it is told instead of speaking, the
+// screen reader what it is given, and the sound output records what it plays
+// (earcons included) instead of using a card.
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   ::setenv("SONALYX_SPEECH", "capture", 1);
@@ -22,8 +26,12 @@ int main(int argc, char** argv) {
       std::filesystem::temp_directory_path() / ("sonalyx-ui-tests-config-" + std::to_string(::getpid()));
   ::setenv("XDG_CONFIG_HOME", config.c_str(), 1);
   QApplication application(argc, argv);
+  // No screen reader runs unless a test says so, whatever the desktop the tests run on.
+  sonalyx::test::CaptureScreenReader screenReader;
+  sonalyx::CDirectSS::instance().setScreenReader(&screenReader);
   ::testing::InitGoogleTest(&argc, argv);
   const int result = RUN_ALL_TESTS();
+  sonalyx::CDirectSS::instance().setScreenReader(nullptr);
   std::error_code ignored;
   std::filesystem::remove(recording, ignored);
   std::filesystem::remove_all(config, ignored);

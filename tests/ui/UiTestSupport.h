@@ -134,6 +134,9 @@ class ProgramUnderTest {
  public:
   explicit ProgramUnderTest(const std::function<void(const SettingsStore&)>& prepare = {},
                             ui::ProgramOptions options = {}) {
+    // Not a first start unless a test asks for one: its announcement would lead
+    // every test's speech.
+    m_settings.store().SetTtsOn(false);
     if (prepare) prepare(m_settings.store());
     m_app = std::make_unique<ui::CGraphCalcApp>(std::move(options));
     m_started = m_app->InitInstance();

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/engines/Evaluator.h"
+#include "core/limits/Limits.h"
 #include "core/utility/DecimalText.h"
 #include "core/utility/NumberFormat.h"
 
@@ -406,6 +407,11 @@ class MatrixParser {
       height += rowHeight;
       rowHeights.push_back(rowHeight);
     }
+    // Checked before the matrix is made: nested blocks grow fourfold each level.
+    if (static_cast<double>(height) * static_cast<double>(width) >
+        static_cast<double>(limits::kMostMatrixElements))
+      fail("a matrix of " + std::to_string(height) + "x" + std::to_string(width) + " is larger than the " +
+           std::to_string(limits::kMostMatrixElements) + " elements allowed");
     MatrixXd m(height, width);
     Eigen::Index top = 0;
     for (std::size_t r = 0; r < rows.size(); ++r) {
@@ -429,6 +435,8 @@ class MatrixParser {
 
 bool evaluateMatrixExpression(std::string_view text, MatrixValue& value, std::string& error) {
   try {
+    if (text.size() > limits::kMostExpressionLength)
+      fail("the expression is longer than " + std::to_string(limits::kMostExpressionLength) + " characters");
     MatrixValue result = MatrixParser(text, 0).parseWhole();
     if (!result.matrix.allFinite()) fail("the result is not a finite number");
     value = std::move(result);

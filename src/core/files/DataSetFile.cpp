@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "core/files/FileError.h"
+#include "core/limits/Limits.h"
 #include "core/utility/DecimalText.h"
 #include "core/utility/NumberFormat.h"
 
@@ -183,6 +184,7 @@ std::vector<DataPoint> readDataSet(std::istream& in) {
     if (isBlankLine(text)) continue;
     const auto point = parseLine(text);
     if (!point) throw DataSetTextError(DataSetTextError::NotTwoNumbers, number);
+    if (points.size() == limits::kMostPoints) throw DataSetTextError(DataSetTextError::TooManyPoints);
     points.push_back(*point);
   }
   if (points.empty()) throw DataSetTextError(DataSetTextError::NoPoints);
@@ -190,6 +192,7 @@ std::vector<DataPoint> readDataSet(std::istream& in) {
 }
 
 std::vector<DataPoint> readDataSetText(const std::string& text) {
+  if (text.size() > limits::kMostDataTextBytes) throw DataSetTextError(DataSetTextError::TooLarge);
   std::istringstream in(text);
   return readDataSet(in);
 }
@@ -244,11 +247,16 @@ std::vector<DataPoint> readDataSetFile(const std::string& path) {
   if (fs::is_directory(file, ec)) throw FileError::fromErrno(EISDIR);
   FileHandle f(openFile(file, "rb"));
   if (!f) throw errorFor(errno, file);
+  // Measured before anything is read: a file of gigabytes is refused, not loaded.
+  if (const auto size = fs::file_size(file, ec); !ec && size > limits::kMostDataTextBytes)
+    throw DataSetTextError(DataSetTextError::TooLarge);
   std::string text;
   char buffer[65536];
   for (;;) {
     errno = 0;
     const std::size_t n = std::fread(buffer, 1, sizeof buffer, f.get());
+    // A file that grows while it is read, or a device, is bounded here.
+    if (text.size() + n > limits::kMostDataTextBytes) throw DataSetTextError(DataSetTextError::TooLarge);
     text.append(buffer, n);
     if (n < sizeof buffer) {
       if (std::ferror(f.get())) throw errorFor(errno != 0 ? errno : EIO, file);

@@ -1,15 +1,30 @@
 #include "core/files/DataSetTextError.h"
 
+#include "core/limits/Limits.h"
+
 namespace sonalyx {
 
 namespace {
 
-std::string describe(DataSetTextError::Problem problem, std::size_t line, const Translator& translate) {
-  if (problem == DataSetTextError::NoPoints) return translateWith(translate, "No points were found.");
-  std::string text = translateWith(translate, "Line %d does not hold two numbers.");
+std::string filled(std::string text, std::size_t number) {
   if (const std::size_t at = text.find("%d"); at != std::string::npos)
-    text.replace(at, 2, std::to_string(line));
+    text.replace(at, 2, std::to_string(number));
   return text;
+}
+
+std::string describe(DataSetTextError::Problem problem, std::size_t line, const Translator& translate) {
+  switch (problem) {
+    case DataSetTextError::NoPoints:
+      return translateWith(translate, "No points were found.");
+    case DataSetTextError::TooManyPoints:
+      return filled(translateWith(translate, "A data set holds at most %d points."), limits::kMostPoints);
+    case DataSetTextError::TooLarge:
+      return filled(translateWith(translate, "The text is too large for a data set of at most %d points."),
+                    limits::kMostPoints);
+    case DataSetTextError::NotTwoNumbers:
+      break;
+  }
+  return filled(translateWith(translate, "Line %d does not hold two numbers."), line);
 }
 
 }  // namespace

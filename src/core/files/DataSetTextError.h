@@ -12,13 +12,14 @@ namespace sonalyx {
 // English message; message() says it in the user's language.
 class DataSetTextError : public std::runtime_error {
  public:
-  enum Problem { NotTwoNumbers, NoPoints };
+  enum Problem { NotTwoNumbers, NoPoints, TooManyPoints, TooLarge };
 
   explicit DataSetTextError(Problem problem, std::size_t line = 0);
 
   Problem problem() const { return m_problem; }
   std::size_t line() const { return m_line; }  // from 1; 0 for the whole text
-  // "Line 3 does not hold two numbers." or "No points were found."
+  // "Line 3 does not hold two numbers.", "No points were found.", or that the text
+  // is beyond what a data set holds.
   std::string message(const Translator& translate = {}) const;
 
  private:

@@ -16,8 +16,9 @@ struct SettingKey {
   // the stored text of a real. nullptr for the values written at every start and
   // never read back (the version and the updater's values), which have no getter.
   const char* defaultText;
-  // Integers only: the setter stores at least this.
+  // Integers only: the setter stores at least `minimum` and at most `maximum`.
   std::uint32_t minimum = 0;
+  std::uint32_t maximum = UINT32_MAX;
 
   constexpr bool hasDefault() const { return defaultText != nullptr; }
   constexpr bool defaultBool() const { return hasDefault() && std::string_view(defaultText) != "0"; }

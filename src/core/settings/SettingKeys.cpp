@@ -9,13 +9,13 @@ namespace {
 using namespace setting;
 
 constexpr SettingKey kTable[] = {
-    kMajor,      kMinor,       kRev,       kAppName,      kUpdateURL,    kSetType,   kFxX0,
-    kFxX1,       kFxNumPts,    kYMax,      kXMin,         kYMin,         kXMax,      kAutoScaleX,
-    kAutoScaleY, kPlotType,    kShowPts,   kShowLine,     kShowEBars,    kShowXAxis, kShowXLabels,
-    kShowYAxis,  kShowYLabels, kFrameType, kData1IsPolar, kData2IsPolar, kExpr1,     kExpr2,
-    kWaveVolume, kTickVolume,  kPlayTicks, kNumTicks,     kYThreshOn,    kYThresh,   kPlayTime,
-    kIsMono,     kMinFreq,     kMaxFreq,   kAutoSpeak,    kSfxOn,        kTtsOn,     kVoice,
-    kRate,       kPitch,       kVol,       kNumDec,       kIsAutoReturn,
+    kMajor,      kMinor,       kRev,       kAppName,      kUpdateURL,    kSetType,      kFxX0,
+    kFxX1,       kFxNumPts,    kYMax,      kXMin,         kYMin,         kXMax,         kAutoScaleX,
+    kAutoScaleY, kPlotType,    kShowPts,   kShowLine,     kShowEBars,    kShowXAxis,    kShowXLabels,
+    kShowYAxis,  kShowYLabels, kFrameType, kData1IsPolar, kData2IsPolar, kExpr1,        kExpr2,
+    kWaveVolume, kTickVolume,  kPlayTicks, kNumTicks,     kYThreshOn,    kYThresh,      kPlayTime,
+    kIsMono,     kMinFreq,     kMaxFreq,   kAutoSpeak,    kSfxOn,        kTtsOn,        kTtsMode,
+    kVoice,      kRate,        kPitch,     kVol,          kNumDec,       kIsAutoReturn,
 };
 
 char lower(char c) {

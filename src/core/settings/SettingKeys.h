@@ -62,6 +62,9 @@ inline constexpr SettingKey kAutoSpeak{"autoSpeak", Boolean, "0"};
 inline constexpr SettingKey kSfxOn{"sfxOn", Boolean, "0"};
 // Self-voicing starts off so that it never talks over a screen reader unasked.
 inline constexpr SettingKey kTtsOn{"ttsOn", Boolean, "0"};
+// What self-voicing says beside a screen reader (see VoicingMode): 0 everything, 1
+// only what the screen reader cannot know, 2 automatic (as 1 while one runs).
+inline constexpr SettingKey kTtsMode{"ttsMode", Integer, "2", 0, 2};
 // Speech: rate, pitch and volume in percent; decimals voiced for a number.
 inline constexpr SettingKey kVoice{"voice", Text, "Sam"};
 inline constexpr SettingKey kRate{"rate", Integer, "50"};

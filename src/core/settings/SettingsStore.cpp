@@ -63,7 +63,7 @@ bool SettingsStore::SetInt(std::string_view name, std::uint32_t value) const {
 }
 
 bool SettingsStore::SetInt(const SettingKey& key, std::uint32_t value) const {
-  return SetInt(key.name, std::max(value, key.minimum));
+  return SetInt(key.name, std::clamp(value, key.minimum, key.maximum));
 }
 
 std::string SettingsStore::GetText(std::string_view name, std::string_view defaultValue) const {

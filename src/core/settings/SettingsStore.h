@@ -153,6 +153,8 @@ class SettingsStore {
   bool SetSfxOn(bool value) const { return SetBool(setting::kSfxOn, value); }
   bool GetTtsOn() const { return GetBool(setting::kTtsOn); }
   bool SetTtsOn(bool value) const { return SetBool(setting::kTtsOn, value); }
+  std::uint32_t GetTtsMode() const { return GetInt(setting::kTtsMode); }
+  bool SetTtsMode(std::uint32_t value) const { return SetInt(setting::kTtsMode, value); }
   std::string GetVoice() const { return GetText(setting::kVoice); }
   bool SetVoice(std::string_view text) const { return SetText(setting::kVoice, text); }
   std::uint32_t GetRate() const { return GetInt(setting::kRate); }

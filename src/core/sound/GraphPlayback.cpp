@@ -6,6 +6,7 @@
 #include "core/files/SelectedDataSet.h"
 #include "core/math/CurveFeatures.h"
 #include "core/sound/EngineLoad.h"
+#include "core/sound/PlayTimeLimit.h"
 #include "core/sound/PointStepping.h"
 #include "core/speech/CoordinatePhrase.h"
 
@@ -83,6 +84,11 @@ PlaybackAction GraphPlayback::run(PlaybackCommand command, std::int32_t cursor) 
   }
   if (!m_source->hasData()) {
     action.speech = say(kEmpty);
+    return action;
+  }
+  // A sound that would be silent or last for days is refused with the range.
+  if (!playTimeAllowed(m_store.GetPlayTime())) {
+    action.speech = playTimeLimitText(m_translate);
     return action;
   }
   const RangeFilter filter = rangeFilterFromSettings(m_store, *m_source);

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "core/sound/AudioFormat.h"
+#include "core/sound/PlayTimeLimit.h"
 #include "core/sound/PointTone.h"
 #include "core/sound/SweepRenderer.h"
 #include "platform/sound/WaveFileWriter.h"
@@ -80,6 +81,11 @@ void CSNControl::PlayPoint(int index, bool stereo) {
 
 void CSNControl::WriteWaveToFile(const std::string& path, bool stereo, bool ticks) {
   m_lastWriteError.clear();
+  // Refused before any file is made: no empty wave, no wave of gigabytes.
+  if (!playTimeAllowed(m_settings.playTime)) {
+    m_lastWriteError = playTimeLimitText();
+    return;
+  }
   try {
     const SweepRequest request{stereo, ticks, false, false, 0, 0};
     SweepRenderer sweep(m_points, m_settings, request);

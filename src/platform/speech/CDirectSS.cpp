@@ -1,6 +1,8 @@
 #include "platform/speech/CDirectSS.h"
 
+#include "core/settings/FirstStart.h"
 #include "core/speech/VoiceChoice.h"
+#include "core/speech/VoicingMode.h"
 #include "core/utility/NumberFormat.h"
 #include "platform/speech/SpeechEngineRegistry.h"
 
@@ -16,8 +18,10 @@ std::string describe(const SpeechEngine& engine, SpeechSetting setting, const ch
 
 }  // namespace
 
+// The voice exists before the program looks at its settings: it must not store the
+// switch's default, or no start would ever be the first.
 CDirectSS::CDirectSS(SettingsStore settings)
-    : m_settings(std::move(settings)), m_enabled(m_settings.GetTtsOn()) {}
+    : m_settings(std::move(settings)), m_enabled(!isFirstStart(m_settings) && m_settings.GetTtsOn()) {}
 
 CDirectSS::~CDirectSS() {
   if (m_sequencer != nullptr) m_sequencer->setSpeechSilencer({});
@@ -53,18 +57,33 @@ void CDirectSS::attach(OutputSequencer& sequencer) {
   sequencer.setSpeechSilencer([this] { Silence(); });
 }
 
-void CDirectSS::Speak(SpeechKind /*kind*/, const std::string& text) {
+void CDirectSS::Speak(SpeechKind kind, const std::string& text) {
   if (!m_engine || !m_enabled) return;
+  const bool screenReaderRunning = m_screenReader != nullptr && m_screenReader->running();
+  switch (routeSpeech(kind, voicingModeFromSetting(m_settings.GetTtsMode()), screenReaderRunning)) {
+    case SpeechRoute::LeftOut:
+      return;
+    case SpeechRoute::ScreenReader:
+      if (m_log) m_log->append(text);
+      // One voice at a time: the own voice's last words end as the queue takes over.
+      m_engine->stop();
+      if (!m_screenReader->present(text))
+        m_engine->speak(text, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
+      return;
+    case SpeechRoute::OwnVoice:
+      break;
+  }
   if (m_log) m_log->append(text);
   m_engine->speak(text, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
 }
 
 void CDirectSS::Stop() {
-  if (m_engine && m_enabled) m_engine->stop();
+  if (m_enabled) Silence();
 }
 
 void CDirectSS::Silence() {
   if (m_engine) m_engine->stop();
+  if (m_screenReader) m_screenReader->cancel();
 }
 
 bool CDirectSS::SelectVoice(const std::string& name) {

@@ -9,6 +9,7 @@
 #include "core/speech/SpeechKind.h"
 #include "core/speech/VoiceFilter.h"
 #include "platform/sound/OutputSequencer.h"
+#include "platform/speech/ScreenReader.h"
 #include "platform/speech/SpeechEngine.h"
 #include "platform/speech/SpeechLog.h"
 
@@ -17,7 +18,9 @@ namespace sonalyx {
 // The program's one voice: every spoken word goes through Speak(), which cuts off
 // whatever was being said. Callers translate before they speak; this speaks what
 // it is given. Without an engine every operation does nothing or returns false, and
-// the program runs silently. Used from the user-interface thread only.
+// the program runs silently. Beside a screen reader the setting ttsMode decides,
+// at every utterance, which texts are left to it and which join its queue (see
+// routeSpeech). Used from the user-interface thread only.
 class CDirectSS {
  public:
   // `enabled` starts as the stored `ttsOn`.
@@ -28,6 +31,8 @@ class CDirectSS {
 
   // The program-wide voice over the user's settings.
   static CDirectSS& instance();
+  // The settings the voice reads from now on (a run's own file).
+  void setSettings(SettingsStore settings) { m_settings = std::move(settings); }
 
   // Takes `engine` and applies the stored voice, rate, pitch and volume; false
   // (and silence) without one.
@@ -40,14 +45,21 @@ class CDirectSS {
   void attach(OutputSequencer& sequencer);
   void setLog(std::unique_ptr<SpeechLog> log) { m_log = std::move(log); }
   SpeechEngine* engine() const { return m_engine.get(); }
+  // The session's screen reader, owned by the caller, who clears it (nullptr)
+  // before it goes; without one the program speaks as if none ran.
+  void setScreenReader(ScreenReader* screenReader) { m_screenReader = screenReader; }
+  ScreenReader* screenReader() const { return m_screenReader; }
 
   // Nothing while disabled. Otherwise cuts off the current utterance and says
   // `text` (after whatever sound leads it), writing it to the log first. `kind`
-  // tells an echo of focus and state from content only the program knows.
+  // tells an echo of focus and state from content only the program knows: an echo
+  // left to the screen reader is neither said nor logged, and content for its
+  // queue falls back to the own voice when the queue cannot take it.
   void Speak(SpeechKind kind, const std::string& text);
-  // Cuts off the current utterance; nothing while disabled.
+  // Cuts off the current utterance and withdraws the program's text from the screen
+  // reader's queue; nothing while disabled.
   void Stop();
-  // Cuts off the current utterance even while disabled (everything is being silenced).
+  // The same even while disabled (everything is being silenced).
   void Silence();
 
   // Picks the voice of exactly that name, else the first whose name contains it,
@@ -83,6 +95,7 @@ class CDirectSS {
   std::unique_ptr<SpeechEngine> m_engine;
   std::unique_ptr<SpeechLog> m_log;
   OutputSequencer* m_sequencer = nullptr;
+  ScreenReader* m_screenReader = nullptr;
 };
 
 }  // namespace sonalyx

@@ -14,6 +14,7 @@
 
 #include "core/files/SelectedDataSet.h"
 #include "core/sound/PlaybackCommand.h"
+#include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/CMainFrame.h"
 #include "ui/app/CommandIds.h"
@@ -86,7 +87,6 @@ CChildFrame::CChildFrame(CGraphCalcApp& app, CCommandTable& commands)
                  Qt::WindowCloseButtonHint);
   setWindowTitle(QString::fromUtf8(product::kTitle));
   setWindowIcon(programIcon());
-  setAccessibleName(Translate(product::kTitle));
   setAttribute(Qt::WA_DeleteOnClose, false);
   // Only the program changes the size: the entries that would let the user do it go.
   if (QMenu* menu = systemMenu()) {
@@ -99,8 +99,13 @@ CChildFrame::CChildFrame(CGraphCalcApp& app, CCommandTable& commands)
   }
 
   m_client = new QWidget();
-  m_client->setAccessibleName(Translate(product::kTitle));
   m_sheet = new CCalcSheet(m_client);
+  // The only window in the work area: no stop for Tab, and nothing a screen reader
+  // needs to hear of; the focus it is given goes straight to the panel's tabs.
+  setFocusPolicy(Qt::NoFocus);
+  setFocusProxy(m_sheet->tabControl());
+  accessible::markLayoutOnly(this);
+  accessible::markLayoutOnly(m_client);
   m_graph = new CPlotWnd(m_app, m_client);
   m_graph->setGeometry(0, 0, 1, 1);
   m_player = new CGraphPlayer(m_app, *m_graph, this);
@@ -507,11 +512,6 @@ bool CChildFrame::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   return QMdiSubWindow::eventFilter(watched, event);
-}
-
-void CChildFrame::focusInEvent(QFocusEvent* event) {
-  QMdiSubWindow::focusInEvent(event);
-  m_sheet->tabControl()->setFocus(event->reason());
 }
 
 void CChildFrame::showEvent(QShowEvent* event) {

@@ -63,7 +63,6 @@ class CChildFrame : public QMdiSubWindow {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
 

@@ -1,13 +1,18 @@
 #include "ui/app/CGraphCalcApp.h"
 
+#include "core/settings/FirstStart.h"
+
 #include <QApplication>
 #include <QCursor>
+#include <QTimer>
 
 #include "core/speech/LanguageTable.h"
+#include "platform/qt/speech/DesktopScreenReader.h"
 #include "platform/qt/speech/SystemSpeechEngine.h"
 #include "platform/sound/OutputSequencer.h"
 #include "platform/sound/SoundEffects.h"
 #include "platform/speech/CDirectSS.h"
+#include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CAboutDlg.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CMainFrame.h"
@@ -48,6 +53,8 @@ CGraphCalcApp::CGraphCalcApp(ProgramOptions options)
 CGraphCalcApp::~CGraphCalcApp() {
   m_mainFrame.reset();
   m_soundEffects.reset();
+  if (m_screenReader && voice::device().screenReader() == m_screenReader.get())
+    voice::device().setScreenReader(nullptr);
   if (g_instance == this) g_instance = nullptr;
 }
 
@@ -62,16 +69,27 @@ bool CGraphCalcApp::InitInstance() {
 
   // Disabled menu items stay reachable from the keyboard so that they can be heard.
   QApplication::setStyle(new CMenuStyle());
+  // Before the first window asks for its accessible interface.
+  accessible::install();
 
   m_mainFrame = std::make_unique<CMainFrame>(*this);
 
   // The one voice, made once per process; its switch follows this run's settings.
   CDirectSS& voice = voice::device();
+  voice.setSettings(m_settings);
   if (!voice.engine()) {
     registerSystemSpeechEngine();
     voice.Create(OutputSequencer::instance());
   }
+  const bool firstStart = isFirstStart(m_settings);
+  if (firstStart) m_settings.SetTtsOn(true);
   voice.setEnabled(m_settings.GetTtsOn());
+  // Watched from the start, so that the first words already know whether a screen
+  // reader runs.
+  if (!voice.screenReader()) {
+    m_screenReader = std::make_unique<DesktopScreenReader>();
+    voice.setScreenReader(m_screenReader.get());
+  }
 
   QApplication::beep();
   QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -85,7 +103,24 @@ bool CGraphCalcApp::InitInstance() {
   m_mainFrame->show();
 
   QApplication::restoreOverrideCursor();
+  if (firstStart) announceFirstStart();
   return true;
+}
+
+void CGraphCalcApp::announceFirstStart() {
+  // After the window has the focus and has said where it is: said earlier, the
+  // sentence would be cut off by that echo. A window that never gets the focus
+  // (no window manager) still hears it after a moment.
+  auto* pending = new QObject(this);
+  const auto say = [pending] {
+    if (pending->property("said").toBool()) return;
+    pending->setProperty("said", true);
+    voice::Speak(SpeechKind::Content, Translate(kFirstStartSentence));
+    pending->deleteLater();
+  };
+  connect(qApp, &QApplication::focusChanged, pending,
+          [pending, say] { QTimer::singleShot(0, pending, say); });
+  QTimer::singleShot(1500, pending, say);
 }
 
 int CGraphCalcApp::ExitInstance() {

@@ -11,8 +11,9 @@
 #include "ui/app/ProgramOptions.h"
 
 namespace sonalyx {
+class ScreenReader;
 class SoundEffects;
-}
+}  // namespace sonalyx
 
 namespace sonalyx::ui {
 
@@ -69,6 +70,8 @@ class CGraphCalcApp : public QObject {
 
  private:
   void onCommand(int id);
+  // Says how to switch self-voicing off, once the window has said where it is.
+  void announceFirstStart();
 
   ProgramOptions m_options;
   SettingsStore m_settings;
@@ -78,6 +81,8 @@ class CGraphCalcApp : public QObject {
   std::unique_ptr<CTranslationDictionary> m_dictionary;
   // The earcons and their switch, from start-up on.
   std::unique_ptr<SoundEffects> m_soundEffects;
+  // The session's screen reader as the voice sees it, unless the voice had one.
+  std::unique_ptr<ScreenReader> m_screenReader;
   std::unique_ptr<CMainFrame> m_mainFrame;
   CCommandTable* m_commands = nullptr;  // owned by the main frame
 };

@@ -7,7 +7,10 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
+#include <QTimer>
 
+#include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CChildFrame.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/CommandTable.h"
@@ -45,7 +48,8 @@ CMainFrame::CMainFrame(CGraphCalcApp& app) : m_app(app) {
   // The child may grow past the window: the work area scrolls then.
   m_mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   m_mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  m_mdiArea->setAccessibleName(Translate("Work area"));
+  // Only a frame around the child: a screen reader passes over it.
+  accessible::markLayoutOnly(m_mdiArea);
   setCentralWidget(m_mdiArea);
   resize(1000, 640);
 
@@ -94,8 +98,20 @@ CChildFrame* CMainFrame::CreateChild(CCommandTable& commands) {
 
 void CMainFrame::connectMenuSpeech(QMenu* menu) {
   connect(menu, &QMenu::hovered, this, [this, menu](QAction* action) { onMenuSelect(menu, action); });
-  for (QAction* action : menu->actions())
-    if (action->menu()) connectMenuSpeech(action->menu());
+  for (QAction* action : menu->actions()) {
+    QMenu* submenu = action->menu();
+    if (!submenu) continue;
+    connectMenuSpeech(submenu);
+    // Leaving a submenu for its title is no move in Qt's eyes, and would be silent.
+    // Looked at once the menus have settled: a chosen item closes them all.
+    connect(submenu, &QMenu::aboutToHide, this, [this, menu, action] {
+      QTimer::singleShot(0, this, [this, menu = QPointer<QMenu>(menu), action = QPointer<QAction>(action)] {
+        if (!menu || !action || !menu->isVisible() || menu->activeAction() != action) return;
+        onMenuSelect(menu, action);
+        accessible::announceMenuItem(menu);
+      });
+    });
+  }
 }
 
 QString CMainFrame::menuSelectText(const QWidget* container, const QAction* action) const {

@@ -1,7 +1,10 @@
 #include "ui/app/CTranslationDictionary.h"
 
+#include <QFileInfo>
 #include <QString>
 #include <QTranslator>
+
+#include "ui/app/ProgramFiles.h"
 
 namespace sonalyx::ui {
 
@@ -28,7 +31,12 @@ bool CTranslationDictionary::Init(Language language) {
   m_language = language;
   m_translator.reset();
   const std::string path = catalogueFor(language);
-  return path.empty() || Load(path);
+  if (path.empty()) return true;
+  // An installed catalogue (a translator's newer one) comes before the built-in one.
+  const QString installed = programDataFolder(QStringLiteral("translations")) + QLatin1Char('/') +
+                            QFileInfo(QString::fromStdString(path)).fileName();
+  if (QFileInfo::exists(installed) && Load(installed.toStdString())) return true;
+  return Load(path);
 }
 
 bool CTranslationDictionary::Load(const std::string& catalogue) {

@@ -1,10 +1,10 @@
 #include "ui/app/HelpFiles.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
 
 #include "ui/app/CommandIds.h"
+#include "ui/app/ProgramFiles.h"
 
 namespace sonalyx::ui {
 
@@ -40,7 +40,7 @@ QString helpPageFor(int commandId) {
 }
 
 QString helpFolder() {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/help/");
+  return programDataFolder(QStringLiteral("help")) + QLatin1Char('/');
 }
 
 bool OpenHelpFile(QWidget* /*owner*/, const QString& relativePath) {

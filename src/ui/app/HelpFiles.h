@@ -11,7 +11,7 @@ namespace sonalyx::ui {
 // always the English ones.
 QString helpPageFor(int commandId);
 
-// The folder "help" beside the program file.
+// The folder "help" beside the program file, or where an installation put it.
 QString helpFolder();
 
 // Opens a help page in the user's browser. A page that is missing is the browser's

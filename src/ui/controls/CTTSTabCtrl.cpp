@@ -12,7 +12,6 @@ CTTSTabCtrl::CTTSTabCtrl(QWidget* parent) : QTabBar(parent) {
   setFocusPolicy(Qt::StrongFocus);
   // The scroll arrows would be silent stops for Tab; the arrow keys turn the tabs.
   for (QAbstractButton* arrow : findChildren<QAbstractButton*>()) arrow->setFocusPolicy(Qt::NoFocus);
-  setAccessibleName(Translate("Control panel"));
 }
 
 QString CTTSTabCtrl::screenText(int index) const {
@@ -33,7 +32,13 @@ void CTTSTabCtrl::setMinimumTabWidth(int width) {
 
 void CTTSTabCtrl::focusInEvent(QFocusEvent* event) {
   QTabBar::focusInEvent(event);
-  if (isVisible() && voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
+  if (isVisible() && !m_quietFocus && voiced::isArrival(this, event)) Speak(SpeechKind::Echo);
+}
+
+void CTTSTabCtrl::takeFocusQuietly() {
+  m_quietFocus = true;
+  setFocus(Qt::OtherFocusReason);
+  m_quietFocus = false;
 }
 
 QSize CTTSTabCtrl::tabSizeHint(int index) const {

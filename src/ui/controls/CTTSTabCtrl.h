@@ -18,6 +18,10 @@ class CTTSTabCtrl : public QTabBar {
   QString screenText(int index) const;
   void Speak(SpeechKind kind);
 
+  // Takes the focus without saying anything: the program moves it here on its way
+  // to a tab that will speak.
+  void takeFocusQuietly();
+
   // Every tab is at least this wide (the panel keeps it at a fifth of its width).
   void setMinimumTabWidth(int width);
   int minimumTabWidth() const { return m_minimumTabWidth; }
@@ -28,6 +32,7 @@ class CTTSTabCtrl : public QTabBar {
 
  private:
   int m_minimumTabWidth = 0;
+  bool m_quietFocus = false;
 };
 
 }  // namespace sonalyx::ui

@@ -1,7 +1,9 @@
 #include "ui/sheet/CCalcSheet.h"
 
+#include <QApplication>
 #include <QResizeEvent>
 
+#include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSTabCtrl.h"
@@ -28,6 +30,8 @@ CCalcSheet::CCalcSheet(QWidget* parent) : QTabWidget(parent), m_tabControl(new C
       m_pages[index] = new CCaptionPage(caption);
     addTab(m_pages[index], caption);
   }
+  // A screen reader meets the panel as its tabs, each holding its page.
+  accessible::markPageTabList(this);
   connect(this, &QTabWidget::currentChanged, this, &CCalcSheet::onCurrentChanged);
   m_shownIndex = currentIndex();
   SetActivePage(kCalculator);
@@ -47,6 +51,12 @@ void CCalcSheet::SetActivePage(int index) {
 
 void CCalcSheet::StepPage(int direction) {
   if (count() == 0) return;
+  // From inside a page the turn ends on the new tab too, as from the tabs: the
+  // focus goes there first, unheard, and moves once, with the page.
+  if (!m_tabControl->hasFocus() && isAncestorOf(QApplication::focusWidget())) {
+    const accessible::QuietFocus quiet;
+    m_tabControl->takeFocusQuietly();
+  }
   setCurrentIndex(((currentIndex() + direction) % count() + count()) % count());
 }
 

@@ -38,7 +38,7 @@ class CCalcSheet : public QTabWidget {
   // Brings a page to the front without speaking (the program's own change).
   void SetActivePage(int index);
   // The user's move to the next (1) or previous (-1) tab, round the ends, as
-  // Ctrl+Tab and Ctrl+Shift+Tab do; it is announced.
+  // Ctrl+Tab and Ctrl+Shift+Tab do; it is announced, and the focus ends on the tab.
   void StepPage(int direction);
   // Lets the current page read its settings again.
   void ReloadCurrentPage();

@@ -123,6 +123,10 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
     checkRow<std::uint32_t, std::uint32_t>(row, SettingType::Integer, std::stoul(row.defaultText), 1234567,
                                            1234567);
   }
+  // A choice of three is stored as at most its last.
+  const Row<std::uint32_t> choices[] = {{"ttsMode", "2", &Store::GetTtsMode, &Store::SetTtsMode}};
+  for (const auto& row : choices)
+    checkRow<std::uint32_t, std::uint32_t>(row, SettingType::Integer, 2, 1234567, 2);
   for (const auto& row : reals) {
     checkRow(row, SettingType::Real, std::stod(row.defaultText), -0.125, -0.125);
   }
@@ -156,8 +160,8 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
     EXPECT_EQ(backend->writes, (std::vector<NamedValue>{{row.name, row.stored}})) << row.name;
     EXPECT_TRUE(backend->reads.empty()) << row.name;
   }
-  EXPECT_EQ(allSettingKeys().size(), std::size(bools) + std::size(ints) + std::size(reals) +
-                                         std::size(texts) + std::size(versionKeys));
+  EXPECT_EQ(allSettingKeys().size(), std::size(bools) + std::size(ints) + std::size(choices) +
+                                         std::size(reals) + std::size(texts) + std::size(versionKeys));
 }
 
 TEST(SettingKeys, OnlyFxNumPtsHasAMinimumAndOnlyItsSetterKeepsIt) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "core/settings/FirstStart.h"
 #include "core/settings/RecordingBackend.h"
 #include "platform/speech/CaptureSpeechEngine.h"
 #include "platform/speech/SelfVoicing.h"
@@ -70,6 +71,12 @@ TEST(CDirectSS, SwitchingSelfVoicingIsHeardBothWays) {
     voice->Speak(SpeechKind::Content, "after");
     EXPECT_EQ(texts(*engine), c.expected) << c.storedOn << c.toggle;
   }
+  // The voice is made before the program reads its settings and stores nothing, so
+  // the program still sees its first start.
+  Rig fresh;
+  CaptureSpeechEngine* unused = nullptr;
+  EXPECT_FALSE(fresh.voice(unused)->enabled());
+  EXPECT_TRUE(isFirstStart(fresh.settings));
 }
 
 TEST(CDirectSS, AppliesTheStoredVoiceAndPercentsOfTheEngineRanges) {

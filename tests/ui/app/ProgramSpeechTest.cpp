@@ -2,9 +2,12 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "core/speech/VoicingMode.h"
+#include "support/CaptureScreenReader.h"
 #include "ui/UiTestSupport.h"
 #include "ui/app/CommandIds.h"
 #include "ui/sheet/CCalcSheet.h"
@@ -21,14 +24,26 @@ void speakOn(const SettingsStore& store) {
 
 TEST(ProgramSpeech, AnnouncesItsTabAtStartOnlyWhenSelfVoicingIsOn) {
   const struct {
-    bool ttsOn;
+    std::optional<bool> ttsOn;  // nothing: never stored, the first start
     Heard expected;
-  } cases[] = {{true, {"Calculator screen."}}, {false, {}}};
+  } cases[] = {
+      {true, {"Calculator screen."}},
+      {false, {}},
+      {std::nullopt, {"Calculator screen.", "Self-voicing is on; Control+Q switches it off and on again."}},
+  };
   for (const auto& c : cases) {
     test::Heard heard;
-    ProgramUnderTest program([&](const SettingsStore& store) { store.SetTtsOn(c.ttsOn); });
+    ProgramUnderTest program([&](const SettingsStore& store) {
+      if (c.ttsOn) {
+        store.SetTtsOn(*c.ttsOn);
+      } else {
+        store.backend().deleteValue("ttsOn");
+      }
+    });
     ASSERT_TRUE(program.started());
-    EXPECT_EQ(heard.take(), c.expected) << c.ttsOn;
+    EXPECT_EQ(heard.take(), c.expected) << c.ttsOn.value_or(-1);
+    // The first start's choice is kept: the next start follows the stored switch.
+    EXPECT_EQ(program.settings().GetTtsOn(), c.ttsOn.value_or(true));
   }
 }
 
@@ -59,7 +74,7 @@ TEST(ProgramSpeech, SaysWhatTheKeyboardDoesInOrder) {
       {"down", Qt::Key_Down, Qt::NoModifier, {"Matrices"}},
       {"the Plot submenu", Qt::Key_Down, Qt::NoModifier, {"Plot"}},
       {"into the submenu", Qt::Key_Right, Qt::NoModifier, {"Source"}},
-      {"out of the submenu", Qt::Key_Escape, Qt::NoModifier, {}},
+      {"out of the submenu", Qt::Key_Escape, Qt::NoModifier, {"Plot"}},
       {"down", Qt::Key_Down, Qt::NoModifier, {"Speech"}},
       {"the Wave submenu", Qt::Key_Down, Qt::NoModifier, {"Wave"}},
       {"up", Qt::Key_Up, Qt::NoModifier, {"Speech"}},
@@ -116,6 +131,50 @@ TEST(ProgramSpeech, SpeaksDisabledSizeItemsAsGrayedAndTogglesAutoReturnAloud) {
   // Restoring the defaults says nothing.
   program.commands().action(cmd::kRestoreDefaults)->trigger();
   EXPECT_EQ(heard.take(), Heard{});
+}
+
+TEST(ProgramSpeech, LeavesEchoesToARunningScreenReaderAndQueuesContentThere) {
+  test::Heard heard;
+  ProgramUnderTest program(speakOn);
+  ASSERT_TRUE(program.started());
+  auto* reader = dynamic_cast<test::CaptureScreenReader*>(CDirectSS::instance().screenReader());
+  ASSERT_NE(reader, nullptr);
+  heard.mark();
+  const Heard echoes{"Data 1 screen.", "Calculator screen."};
+  const Heard content{"Self-voicing deactivated.", "Self-voicing activated."};
+  const struct {
+    VoicingMode mode;
+    bool running;
+    bool queueAccepts;
+    bool echoSaid;       // by the program's own voice
+    bool contentSaid;    // by the program's own voice
+    bool contentQueued;  // handed to the screen reader
+  } cases[] = {
+      {VoicingMode::Automatic, false, true, true, true, false},
+      {VoicingMode::Automatic, true, true, false, false, true},
+      {VoicingMode::Everything, true, true, true, true, false},
+      {VoicingMode::OnlyContent, false, true, false, true, false},
+      {VoicingMode::OnlyContent, true, true, false, false, true},
+      // A queue that cannot take the text leaves it to the program's own voice.
+      {VoicingMode::Automatic, true, false, false, true, true},
+  };
+  for (const auto& c : cases) {
+    // Both are looked at when the program speaks, as they change while it runs.
+    program.settings().SetTtsMode(static_cast<std::uint32_t>(c.mode));
+    reader->setRunning(c.running);
+    reader->setAccepts(c.queueAccepts);
+    program.press(Qt::Key_Tab, Qt::ControlModifier);
+    program.press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    program.press(Qt::Key_Q, Qt::ControlModifier);
+    program.press(Qt::Key_Q, Qt::ControlModifier);
+    Heard own = c.echoSaid ? echoes : Heard{};
+    if (c.contentSaid) own.insert(own.end(), content.begin(), content.end());
+    const auto row = static_cast<int>(&c - cases);
+    EXPECT_EQ(heard.take(), own) << "row " << row;
+    EXPECT_EQ(reader->take(), c.contentQueued ? content : Heard{}) << "row " << row;
+  }
+  reader->setRunning(false);
+  reader->setAccepts(true);
 }
 
 }  // namespace

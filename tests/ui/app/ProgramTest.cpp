@@ -320,7 +320,8 @@ TEST(Program, EveryControlTheKeyboardReachesHasAnAccessibleName) {
   QStringList unnamed;
   int focusable = 0;
   for (QWidget* widget : program.mainFrame()->findChildren<QWidget*>()) {
-    if (widget->focusPolicy() == Qt::NoFocus || !widget->isEnabled()) continue;
+    // A widget with a focus proxy is never reached itself: the proxy takes its focus.
+    if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() || !widget->isEnabled()) continue;
     ++focusable;
     QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(widget);
     if (!iface || iface->text(QAccessible::Name).trimmed().isEmpty())
@@ -328,6 +329,61 @@ TEST(Program, EveryControlTheKeyboardReachesHasAnAccessibleName) {
   }
   EXPECT_GE(focusable, 9);  // the tabs and a text on each page at least
   EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join(", ").toStdString();
+}
+
+// What a screen reader meets: one focused object, the panel as a page-tab list
+// whose tabs hold their pages, menu items named without their keys.
+TEST(Program, ShowsAScreenReaderTheTreeItExpects) {
+  ProgramUnderTest program;
+  ASSERT_TRUE(program.started());
+  CCalcSheet* sheet = program.child()->sheet();
+  QAccessibleInterface* tabs = QAccessible::queryAccessibleInterface(sheet->tabControl());
+  ASSERT_NE(tabs, nullptr);
+  const auto item = [&](int id) {
+    return QAccessible::queryAccessibleInterface(program.commands().action(id));
+  };
+  const struct {
+    const char* what;
+    QAccessibleInterface* iface;
+    QAccessible::Role role;
+    const char* name;
+    const char* keys;
+  } rows[] = {
+      {"the panel", tabs, QAccessible::PageTabList, "Control panel", ""},
+      {"a tab", tabs->child(CCalcSheet::kData1), QAccessible::PageTab, "Data 1", ""},
+      {"an item with a key", item(cmd::kLarger), QAccessible::MenuItem, "Larger", "F8"},
+      {"an item with two keys", item(cmd::kSelfVoicing), QAccessible::MenuItem, "Self-Voicing",
+       "Ctrl+Q, Alt+S"},
+      {"an item without", item(cmd::kAutoReturn), QAccessible::MenuItem, "AutoReturn", ""},
+  };
+  for (const auto& row : rows) {
+    ASSERT_NE(row.iface, nullptr) << row.what;
+    EXPECT_EQ(row.iface->role(), row.role) << row.what;
+    EXPECT_EQ(row.iface->text(QAccessible::Name), row.name) << row.what;
+    EXPECT_EQ(row.iface->text(QAccessible::Accelerator), row.keys) << row.what;
+  }
+  ASSERT_EQ(tabs->childCount(), CCalcSheet::kPageCount);
+  for (int index = 0; index < CCalcSheet::kPageCount; ++index) {
+    QAccessibleInterface* page = tabs->child(index)->child(0);
+    ASSERT_NE(page, nullptr) << index;
+    EXPECT_EQ(page->object(), sheet->page(index)) << index;
+    EXPECT_EQ(page->parent(), tabs->child(index)) << index;
+  }
+  // Exactly one object claims the focus, however the focus is passed on inside.
+  QStringList focused;
+  QList<QAccessibleInterface*> pending{QAccessible::queryAccessibleInterface(program.mainFrame())};
+  while (!pending.isEmpty()) {
+    QAccessibleInterface* next = pending.takeFirst();
+    if (next->state().focused) focused << next->text(QAccessible::Name);
+    for (int index = 0; index < next->childCount(); ++index)
+      if (QAccessibleInterface* below = next->child(index)) pending << below;
+  }
+  EXPECT_EQ(focused, QStringList{"Calculator"});
+  // The child frame around the panel is no stop for Tab: it goes round the page.
+  program.press(Qt::Key_Tab);
+  EXPECT_TRUE(sheet->page(CCalcSheet::kCalculator)->isAncestorOf(QApplication::focusWidget()));
+  program.press(Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), sheet->tabControl());
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+// What the program accepts before it allocates anything: every input that could
+// exhaust the machine is measured against these and refused with a message that
+// names the limit, leaving the data and settings as they were.
+namespace sonalyx::limits {
+
+// Points in one data set, sampled, read from a file or pasted: enough for any graph
+// a person explores, 56 MB of points at most.
+inline constexpr std::size_t kMostPoints = 1'000'001;
+// A data-set file or clipboard text larger than this cannot hold a readable table
+// of kMostPoints points (64 bytes a line is generous).
+inline constexpr std::uintmax_t kMostDataTextBytes = std::uintmax_t{kMostPoints} * 64;
+
+// The play time of a graph, in whole seconds.
+inline constexpr std::uint32_t kShortestPlayTime = 1;
+inline constexpr std::uint32_t kLongestPlayTime = 600;
+
+// Elements of one matrix (a 1000 x 1000 matrix is 8 MB and inverts in about a second).
+inline constexpr std::size_t kMostMatrixElements = 1'000'000;
+
+// Characters of one expression: room for the largest matrix pasted as text
+// (a million elements of up to 16 characters).
+inline constexpr std::size_t kMostExpressionLength = 16'000'000;
+
+}  // namespace sonalyx::limits

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "core/settings/SettingsStore.h"
+
+namespace sonalyx {
+
+// Whether the program starts for the first time with these settings (or after the
+// defaults were restored): the self-voicing switch has never been stored. Such a
+// start switches self-voicing on and says how to switch it off, so a blind user
+// hears the program at once; with a screen reader running only content is spoken,
+// in the screen reader's own queue.
+bool isFirstStart(const SettingsStore& store);
+
+// The one sentence said at a first start.
+inline constexpr char kFirstStartSentence[] = "Self-voicing is on; Control+Q switches it off and on again.";
+
+}  // namespace sonalyx
