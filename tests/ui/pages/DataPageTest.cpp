@@ -141,6 +141,14 @@ TEST(DataPage, ByKeyboardFromExpressionToFittedCurve) {
        "Row 2: x = -9.96, f(x) = 95.2016, d(f(x))/dx = -19.92, \xE2\x88\xAB"
        "f(x)dx = 3.82402, Trend +",
        501},
+      {"Esc gives up an edit",
+       [&] {
+         type("7");
+         program.press(Qt::Key_Escape);
+       },
+       "Row 2: x = -9.96, f(x) = 95.2016, d(f(x))/dx = -19.92, \xE2\x88\xAB"
+       "f(x)dx = 3.82402, Trend +",
+       501},
       {"to the statistics", [&] { program.press(Qt::Key_Tab); }, "Evaluate Statistics", 501},
       {"the statistics", [&] { program.press(Qt::Key_Space); }, "Number of points: 501", 501},
       {"the next line", [&] { program.press(Qt::Key_Down); }, "Blank line", 501},
