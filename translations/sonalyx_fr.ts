@@ -495,5 +495,309 @@
         <source>not checked</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+B says the display again, Ctrl+T the memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows M while the memory holds a value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hex</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hexadecimal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>octal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>binary.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number base</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal, decimal, octal or binary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>degrees.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>radians.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>grad.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angle unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees, radians or grad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inv</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hyp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>inverse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hyperbolic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>backspace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>e to the x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x to the power y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>square root</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one over x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>n factorial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plus minus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>memory store</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>memory plus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>memory clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>memory recall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inverse check box: checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inverse check box: unchecked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hyperbolic check box: checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hyperbolic check box: unchecked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot divide by zero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result is undefined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overflow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result : </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid entry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A variable refers to itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter evaluates it or stores name = expression; Up and Down bring earlier entries back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result of the last entry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every entry with its result, the newest first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matrix Expression:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error: Invalid matrix expression.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matrix expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter evaluates it or stores NAME = expression; ANS is the last result; Up and Down bring earlier entries back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matrix display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last result, typeset; its context menu copies it to the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy To Clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matrix copied to the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no matrix to copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -737,6 +737,13 @@ void CCalcEngine::bttnMemory_Click(int action) {
   }
 }
 
+std::optional<std::string> CCalcEngine::memoryText() const {
+  if (!m_memoryInUse) return std::nullopt;
+  Number recalled;
+  if (const char* error = convert(m_memory, m_base, recalled)) return std::string(error);
+  return formatValue(recalled);
+}
+
 void CCalcEngine::bttnC_Click() {
   resetAll();
 }

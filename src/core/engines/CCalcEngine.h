@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,9 @@ class CCalcEngine {
   int numberBase() const { return m_base; }
   // True from memory store or add until memory clear: the page's "M" indicator.
   bool hasMemory() const { return m_memoryInUse; }
+  // The memory as memory recall would show it in the base in use (or the error
+  // that recalling it would give); nothing while the memory is empty.
+  std::optional<std::string> memoryText() const;
   // True while the display shows an error text.
   bool isError() const { return m_last == Last::Error; }
   bool exponentialDisplay() const { return m_exponential; }

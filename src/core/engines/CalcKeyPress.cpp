@@ -92,10 +92,12 @@ CalcKeyPress pressCalcKey(CCalcEngine& engine, int commandId) {
   if (const int code = unaryCode(commandId); code >= 0) {
     engine.bttnUniOp_Click(code);
     press.unary = true;
+    press.speakDisplay = true;
     return press;
   }
   if (const char* name = binaryName(commandId)) {
     engine.bttnBinOp_Click(name);
+    press.speakDisplay = commandId == kKeyEquals || engine.isError();
     return press;
   }
   if (commandId >= kKeyDigit0 && commandId <= kKeyDigit9) {
@@ -111,6 +113,7 @@ CalcKeyPress pressCalcKey(CCalcEngine& engine, int commandId) {
   switch (commandId) {
     case kKeyFixedExponent:
       engine.bttnF2E_Click();
+      press.speakDisplay = true;
       break;
     case kKeyEnterExponent:
       engine.bttnEE_Click();
@@ -134,6 +137,7 @@ CalcKeyPress pressCalcKey(CCalcEngine& engine, int commandId) {
       engine.bttnUniOp_Click(12);
       engine.inverse = false;
       press.unary = true;
+      press.speakDisplay = true;
       break;
     case kKeyChangeSign:
       engine.bttnPlusMinus_Click();
@@ -167,6 +171,8 @@ CalcKeyPress pressCalcKey(CCalcEngine& engine, int commandId) {
     default:
       return CalcKeyPress{};
   }
+  // An error always reaches the user, whichever key brought it or met it.
+  press.speakDisplay = press.speakDisplay || engine.isError();
   return press;
 }
 

@@ -13,7 +13,9 @@ struct CalcKeyPress {
   // A unary action: the page clears the Inverse and Hyperbolic check marks (the
   // engine has already consumed its own flags).
   bool unary = false;
-  // Memory recall: the page speaks the display afterwards.
+  // The key leaves something the user must hear after the key's name: the result
+  // of "=" or of a function, the value recalled from memory, the display switched
+  // between fixed and exponential notation, or an error text.
   bool speakDisplay = false;
 };
 

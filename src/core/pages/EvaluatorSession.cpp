@@ -49,6 +49,8 @@ EvaluatorEntry EvaluatorSession::enter(const std::string& text) {
     m_history.add(text);
     shown.listEntry = text;
     insertIntoList(text);
+    // Heard like any result: silence after Enter would leave the user guessing.
+    shown.speech = translate(kResultLabel) + shown.resultText;
     return shown;
   }
 

@@ -52,7 +52,11 @@ MatrixEntry MatrixSession::enter(const std::string& typed) {
     // variables put in, replaces it only when it succeeds.
     shown.editText = assignment->value;
     m_variables[assignment->name] = assignment->value;
-    if (!evaluate(assignment->value, result)) return shown;
+    if (!evaluate(assignment->value, result)) {
+      // The value stays in the edit to be mended; the user hears why nothing came.
+      shown.speech = translateWith(m_translator, kInvalidExpression);
+      return shown;
+    }
   } else if (!evaluate(text, result)) {
     shown.editText = translateWith(m_translator, kInvalidExpression);
     shown.selectAll = true;

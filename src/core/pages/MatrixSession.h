@@ -21,8 +21,9 @@ struct MatrixEntry {
   bool selectAll = false;
   // Paint the display window again from the engine's last result.
   bool redraw = false;
-  // The edit's spoken label and text, before symbols are read as words; nothing
-  // when an assignment's value cannot be evaluated.
+  // The edit's spoken label and text, before symbols are read as words; the error
+  // message alone when an assignment's value cannot be evaluated (the edit then
+  // keeps the value, to be mended).
   std::optional<std::string> speech;
 };
 

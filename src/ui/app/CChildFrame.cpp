@@ -201,6 +201,7 @@ bool CChildFrame::HasHandler(int id) {
     case cmd::kFirstPoint:
     case cmd::kLastPoint:
     case cmd::kPreviousZero:
+    case cmd::kCopyMatrix:
       return true;
     default:
       return false;
@@ -226,6 +227,9 @@ bool CChildFrame::RuleAllows(int id) const {
       return sets[0].count() > 1 && sets[1].count() > 1 && sets[0].count() == sets[1].count();
     case cmd::kFindZeros:
       return sets[0].count() > 1;
+    case cmd::kCopyMatrix:
+      // Elsewhere Ctrl+C stays the page's (memory store) or the edit's (copy).
+      return m_sheet->currentIndex() == CCalcSheet::kMatrix;
     default:
       return true;
   }
@@ -288,6 +292,9 @@ void CChildFrame::OnCommand(int id) {
       break;
     case cmd::kAutoReturn:
       OnAutoReturn();
+      break;
+    case cmd::kCopyMatrix:
+      m_sheet->CopyMatrix();
       break;
     case cmd::kSelfVoicing:
       OnSelfVoicing();

@@ -33,10 +33,15 @@ void CTTSComboBox::setSpokenLabel(const QString& english) {
   if (view()) view()->setAccessibleName(m_spokenLabel);
 }
 
+QString CTTSComboBox::itemSpokenText(int index) const {
+  const QString words = itemData(index, Qt::AccessibleTextRole).toString();
+  const QString item = words.isEmpty() ? itemText(index) : words;
+  return m_spokenLabel.isEmpty() ? item : m_spokenLabel + QLatin1Char(' ') + item;
+}
+
 QString CTTSComboBox::spokenText() const {
   if (currentIndex() < 0) return m_spokenLabel;
-  if (m_spokenLabel.isEmpty()) return currentText();
-  return m_spokenLabel + QLatin1Char(' ') + currentText();
+  return itemSpokenText(currentIndex());
 }
 
 void CTTSComboBox::Speak(SpeechKind kind) {
@@ -49,8 +54,7 @@ void CTTSComboBox::speakItem(SpeechKind kind, int index) {
     return;
   }
   voiced::playSoundEffect(2);
-  const QString item = itemText(index);
-  voiced::say(this, kind, m_spokenLabel.isEmpty() ? item : m_spokenLabel + QLatin1Char(' ') + item);
+  voiced::say(this, kind, itemSpokenText(index));
 }
 
 void CTTSComboBox::focusInEvent(QFocusEvent* event) {

@@ -8,6 +8,8 @@ namespace sonalyx::ui {
 
 // A combo box that says its label and its selection when it gets the focus and
 // whenever the user changes the selection, with the selection earcon (2) first.
+// An item may be spoken by other words than its text: its Qt::AccessibleTextRole
+// ("hexadecimal." for "Hex").
 class CTTSComboBox : public QComboBox {
   Q_OBJECT
  public:
@@ -26,6 +28,7 @@ class CTTSComboBox : public QComboBox {
 
  private:
   void speakItem(SpeechKind kind, int index);
+  QString itemSpokenText(int index) const;
 
   QString m_spokenLabel;
   // The item last said while the list was open; choosing it says nothing more.

@@ -10,8 +10,33 @@
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
 #include "ui/pages/CDataPage.h"
+#include "ui/pages/calculator/CCalculatorPage.h"
+#include "ui/pages/evaluator/CEvaluatorPage.h"
+#include "ui/pages/matrix/CMatrixPage.h"
 
 namespace sonalyx::ui {
+
+namespace {
+
+// The page behind each tab; those not built yet show their caption.
+CCalcPage* createPage(int index, const QString& caption) {
+  switch (index) {
+    case CCalcSheet::kCalculator:
+      return new CCalculatorPage(caption);
+    case CCalcSheet::kEvaluator:
+      return new CEvaluatorPage(caption);
+    case CCalcSheet::kMatrix:
+      return new CMatrixPage(caption);
+    case CCalcSheet::kData1:
+      return new CDataPage(DataSet::Data1, caption);
+    case CCalcSheet::kData2:
+      return new CDataPage(DataSet::Data2, caption);
+    default:
+      return new CCaptionPage(caption);
+  }
+}
+
+}  // namespace
 
 const std::array<const char*, CCalcSheet::kPageCount>& CCalcSheet::englishCaptions() {
   static const std::array<const char*, kPageCount> captions{"Plot",   "Wave",   "Speech",    "Calculator",
@@ -24,10 +49,7 @@ CCalcSheet::CCalcSheet(QWidget* parent) : QTabWidget(parent), m_tabControl(new C
   setAccessibleName(Translate("Control panel"));
   for (int index = 0; index < kPageCount; ++index) {
     const QString caption = Translate(englishCaptions()[index]);
-    if (index == kData1 || index == kData2)
-      m_pages[index] = new CDataPage(index == kData1 ? DataSet::Data1 : DataSet::Data2, caption);
-    else
-      m_pages[index] = new CCaptionPage(caption);
+    m_pages[index] = createPage(index, caption);
     addTab(m_pages[index], caption);
   }
   // A screen reader meets the panel as its tabs, each holding its page.
@@ -74,6 +96,10 @@ void CCalcSheet::FocusPlotGroup(PlotGroup group) {
 void CCalcSheet::FocusWaveGroup(WaveGroup group) {
   SetActivePage(kWave);
   if (currentIndex() == kWave) m_pages[kWave]->FocusGroup(group);
+}
+
+void CCalcSheet::CopyMatrix() {
+  if (currentIndex() == kMatrix) static_cast<CMatrixPage*>(m_pages[kMatrix])->CopyMatrix();
 }
 
 void CCalcSheet::setPanelFonts(const QFont& panelFont, const QFont& pageFont) {

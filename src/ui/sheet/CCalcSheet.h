@@ -46,6 +46,9 @@ class CCalcSheet : public QTabWidget {
   void FocusPlotGroup(PlotGroup group);
   void FocusWaveGroup(WaveGroup group);
 
+  // Ctrl+C: copies the matrix when the Matrix page is in front.
+  void CopyMatrix();
+
   // The tabs' font and the pages' font.
   void setPanelFonts(const QFont& panelFont, const QFont& pageFont);
 

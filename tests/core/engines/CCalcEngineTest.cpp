@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -590,19 +591,26 @@ TEST(CCalcEngine, MemoryStoresAddsRecallsAndClears) {
   expectDisplays(cases);
 }
 
-TEST(CCalcEngine, MemoryIndicatorFollowsStoreAddAndClear) {
+TEST(CCalcEngine, MemoryIndicatorAndTextFollowStoreAddAndClear) {
   CCalcEngine engine;
   KeyPad pad(engine);
-  pad.press("5 MS");
-  EXPECT_TRUE(engine.hasMemory());
-  pad.press("C");
-  EXPECT_TRUE(engine.hasMemory());  // C keeps the memory
-  pad.press("MC");
-  EXPECT_FALSE(engine.hasMemory());
-  pad.press("3 M+");
-  EXPECT_TRUE(engine.hasMemory());
-  pad.press("MC 1 / 0 = MS");
-  EXPECT_FALSE(engine.hasMemory());  // nothing to store in an error
+  const struct {
+    const char* keys;
+    std::optional<std::string> memory;
+  } steps[] = {
+      {"5 MS", "5"},
+      {"C", "5"},  // C keeps the memory
+      {"MC", std::nullopt},
+      {"3 M+", "3"},
+      {"C 2 5 5 MS hex", "FF"},  // in the base shown
+      {"dec 1 EE 3 0 0 MS hex", "Overflow"},
+      {"dec MC 1 / 0 = MS", std::nullopt},  // nothing to store in an error
+  };
+  for (const auto& step : steps) {
+    pad.press(step.keys);
+    EXPECT_EQ(engine.hasMemory(), step.memory.has_value()) << step.keys;
+    EXPECT_EQ(engine.memoryText(), step.memory) << step.keys;
+  }
 }
 
 TEST(CCalcEngine, ErrorStateIsReported) {

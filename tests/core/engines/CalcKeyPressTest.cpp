@@ -82,11 +82,13 @@ TEST(CalcKeyPress, ReportsWhatThePageDoesAfterwards) {
     bool unary;
     bool speak;
   };
+  // Results are said: "=", functions, memory recall, the notation switched.
   const Case cases[] = {
-      {1108, true, false},  {1105, true, false},     {1107, true, false},  {1169, true, false},
-      {1116, true, false},  {1119, true, false},     {1114, true, false},  {kPlus, false, false},
+      {1108, true, true},   {1105, true, true},      {1107, true, true},   {1169, true, true},
+      {1116, true, false},  {1119, true, true},      {1114, true, true},   {kPlus, false, false},
       {1137, false, false}, {1135, false, false},    {1143, false, true},  {1172, false, true},
-      {1140, false, false}, {kDigit0, false, false}, {1095, false, false},
+      {1140, false, false}, {kDigit0, false, false}, {1095, false, false}, {kEquals, false, true},
+      {1091, false, true},
   };
   for (const auto& c : cases) {
     CCalcEngine engine;
@@ -95,6 +97,11 @@ TEST(CalcKeyPress, ReportsWhatThePageDoesAfterwards) {
     EXPECT_EQ(press.unary, c.unary) << c.id;
     EXPECT_EQ(press.speakDisplay, c.speak) << c.id;
   }
+  // An error is said by every key that leaves it on the display.
+  CCalcEngine engine;
+  pressAll(engine, {1121, 1130, kDigit0, kEquals});
+  for (const int id : {kPlus, 1140, 1093}) EXPECT_TRUE(pressCalcKey(engine, id).speakDisplay) << id;
+  EXPECT_FALSE(pressCalcKey(engine, 1122).speakDisplay);
 }
 
 TEST(CalcKeyPress, DigitsTheBaseLacks) {

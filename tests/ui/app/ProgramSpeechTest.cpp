@@ -61,7 +61,7 @@ TEST(ProgramSpeech, SaysWhatTheKeyboardDoesInOrder) {
   } steps[] = {
       {"next tab", Qt::Key_Tab, Qt::ControlModifier, {"Data 1 screen."}},
       {"previous tab", Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier, {"Calculator screen."}},
-      {"into the page", Qt::Key_Tab, Qt::NoModifier, {"Label. Calculator"}},
+      {"into the page", Qt::Key_Tab, Qt::NoModifier, {"Display. 0"}},
       {"back to the tabs", Qt::Key_Backtab, Qt::ShiftModifier, {"Calculator screen."}},
       {"tab to the left", Qt::Key_Left, Qt::NoModifier, {"Speech screen."}},
       {"into the menus", Qt::Key_F10, Qt::NoModifier, {"File"}},

@@ -379,8 +379,13 @@ TEST(Program, ShowsAScreenReaderTheTreeItExpects) {
       if (QAccessibleInterface* below = next->child(index)) pending << below;
   }
   EXPECT_EQ(focused, QStringList{"Calculator"});
-  // The child frame around the panel is no stop for Tab: it goes round the page.
+  // The child frame around the panel is no stop for Tab: it goes round the page,
+  // from the tabs back to the page's last control and on to the tabs again.
   program.press(Qt::Key_Tab);
+  EXPECT_TRUE(sheet->page(CCalcSheet::kCalculator)->isAncestorOf(QApplication::focusWidget()));
+  program.press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget(), sheet->tabControl());
+  program.press(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(sheet->page(CCalcSheet::kCalculator)->isAncestorOf(QApplication::focusWidget()));
   program.press(Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), sheet->tabControl());

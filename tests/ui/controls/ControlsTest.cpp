@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ui/UiTestSupport.h"
+#include "ui/app/CAccessibilityHooks.h"
 #include "ui/controls/CHyperLink.h"
 #include "ui/controls/CTTSButton.h"
 #include "ui/controls/CTTSComboBox.h"
@@ -25,8 +26,8 @@ namespace {
 
 using Heard = std::vector<std::string>;
 
-// The program with its voice and earcons on, and a place on the front page for
-// the controls under test.
+// The program with its voice and earcons on, and a window of the program's own
+// for the controls under test (on a page they would meet that page's keys).
 class Controls : public ::testing::Test {
  protected:
   Controls()
@@ -38,7 +39,13 @@ class Controls : public ::testing::Test {
 
   void SetUp() override {
     ASSERT_TRUE(m_program.started());
-    m_page = m_program.child()->sheet()->currentPage();
+    m_host = std::make_unique<QWidget>();
+    CAccessibilityHooks::markSelfVoiced(m_host.get());
+    m_host->resize(320, 240);
+    m_host->show();
+    QApplication::setActiveWindow(m_host.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_host.get()));
+    m_page = m_host.get();
     m_heard.mark();
   }
 
@@ -57,6 +64,7 @@ class Controls : public ::testing::Test {
   }
 
   test::ProgramUnderTest m_program;
+  std::unique_ptr<QWidget> m_host;
   QWidget* m_page = nullptr;
   test::Heard m_heard;
 };
@@ -185,6 +193,10 @@ TEST_F(Controls, ListsCombosSlidersAndTextsSayTheirContents) {
   EXPECT_EQ(heard(), Heard{});  // the program's own choice is silent
   QTest::keyClick(combo, Qt::Key_Down);
   EXPECT_EQ(heard(), (Heard{"earcon 2", "Voice Mary"}));
+  // An item may be said in other words than it shows.
+  combo->setItemData(0, QStringLiteral("Samantha"), Qt::AccessibleTextRole);
+  QTest::keyClick(combo, Qt::Key_Up);
+  EXPECT_EQ(heard(), (Heard{"earcon 2", "Voice Samantha"}));
 
   list->setFocus(Qt::TabFocusReason);
   EXPECT_EQ(heard(), Heard{"2 times 3"});
