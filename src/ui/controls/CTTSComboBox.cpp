@@ -29,6 +29,8 @@ CTTSComboBox::CTTSComboBox(QWidget* parent) : QComboBox(parent) {
 void CTTSComboBox::setSpokenLabel(const QString& english) {
   m_spokenLabel = Translate(english);
   setAccessibleName(m_spokenLabel);
+  // The open list is named after its box too.
+  if (view()) view()->setAccessibleName(m_spokenLabel);
 }
 
 QString CTTSComboBox::itemSpokenText(int index) const {

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 
+#include "ui/app/CGraphCalcApp.h"
 #include "ui/controls/VoicedText.h"
 
 namespace sonalyx::ui {
@@ -16,7 +17,10 @@ CTTSListBox::CTTSListBox(QWidget* parent) : QListWidget(parent) {
 
 QString CTTSListBox::itemSpokenText(int row) const {
   const QListWidgetItem* entry = item(row);
-  return entry ? voiced::expandSymbols(entry->text()) : QString();
+  if (!entry) return {};
+  // A line left empty between groups is heard as such, not as silence.
+  if (entry->text().trimmed().isEmpty()) return Translate("Blank line");
+  return voiced::expandSymbols(entry->text());
 }
 
 void CTTSListBox::SpeakItem(SpeechKind kind, int row) {
