@@ -42,6 +42,10 @@ std::uint32_t parseInt(const SettingKey& key, const std::string& text) {
     throw CliError::user(std::string(key.name) + " takes a whole number from 0 to 4294967295, not '" + text +
                          "'");
   }
+  if (value > key.maximum) {
+    throw CliError::user(std::string(key.name) + " takes at most " + std::to_string(key.maximum) + ", not '" +
+                         text + "'");
+  }
   return value;
 }
 

@@ -20,6 +20,11 @@ int main(int argc, char** argv) {
           .string();
   ::setenv("SONALYX_AUDIO", ("capture:" + recording).c_str(), 1);
   ::unsetenv("SONALYX_SPEECH_LOG");
+  // Qt keeps the file dialogs' last folder in the user's configuration: the tests
+  // keep theirs to themselves.
+  const std::filesystem::path config =
+      std::filesystem::temp_directory_path() / ("sonalyx-ui-tests-config-" + std::to_string(::getpid()));
+  ::setenv("XDG_CONFIG_HOME", config.c_str(), 1);
   QApplication application(argc, argv);
   // No screen reader runs unless a test says so, whatever the desktop the tests run on.
   sonalyx::test::CaptureScreenReader screenReader;
@@ -29,5 +34,6 @@ int main(int argc, char** argv) {
   sonalyx::CDirectSS::instance().setScreenReader(nullptr);
   std::error_code ignored;
   std::filesystem::remove(recording, ignored);
+  std::filesystem::remove_all(config, ignored);
   return result;
 }

@@ -3,6 +3,7 @@
 #include <stdlib.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTest>
 #include <QWidget>
 #include <algorithm>
@@ -25,6 +26,7 @@
 #include "ui/app/CMainFrame.h"
 #include "ui/app/CommandTable.h"
 #include "ui/app/VersionPublisher.h"
+#include "ui/graph/CPlotWnd.h"
 
 // Readable QStrings in failure messages.
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -53,6 +55,17 @@ class ScopedEnv {
   const char* m_name;
   std::optional<std::string> m_old;
 };
+
+// Lets the event loop run until `done` holds or `timeoutMs` have passed; whether it holds.
+inline bool waitUntil(const std::function<bool()>& done, int timeoutMs = 5000) {
+  QElapsedTimer timer;
+  timer.start();
+  while (!done()) {
+    if (timer.elapsed() > timeoutMs) return false;
+    QTest::qWait(5);
+  }
+  return true;
+}
 
 // What the program said and which earcons it played, in the order the user hears
 // them: each utterance as its text, each earcon as "earcon N".

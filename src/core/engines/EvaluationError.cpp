@@ -25,6 +25,8 @@ const char* pattern(EvaluationError::Kind kind) {
       return "The expression is nested too deeply.";
     case Kind::NumberBeforeX:
       return "Write a * between a number and x.";
+    case Kind::TooLong:
+      return "The expression is longer than %s characters.";
   }
   return "";
 }

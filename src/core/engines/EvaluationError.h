@@ -20,6 +20,7 @@ struct EvaluationError {
     Unexpected,             // `subject` holds the character or word that cannot stand there
     NestedTooDeeply,
     NumberBeforeX,  // "2x": a number written right before the variable
+    TooLong,        // beyond limits::kMostExpressionLength; `subject` holds the limit
   };
 
   Kind kind = Kind::None;

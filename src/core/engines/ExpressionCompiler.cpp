@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/limits/Limits.h"
 #include "core/utility/DecimalText.h"
 
 namespace sonalyx {
@@ -370,6 +371,11 @@ bool findFunctionOperation(std::string_view name, ExpressionOperation& op) {
 }
 
 bool compileExpression(std::string_view text, bool withX, ExpressionCode& code, EvaluationError& error) {
+  // Refused before any code is made.
+  if (text.size() > limits::kMostExpressionLength) {
+    error = EvaluationError{EvaluationError::Kind::TooLong, std::to_string(limits::kMostExpressionLength), 0};
+    return false;
+  }
   Compiler compiler(text, withX, code);
   if (compiler.compile()) return true;
   error = compiler.error();

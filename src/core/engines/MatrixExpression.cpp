@@ -435,8 +435,8 @@ class MatrixParser {
 
 bool evaluateMatrixExpression(std::string_view text, MatrixValue& value, std::string& error) {
   try {
-    if (text.size() > limits::kMostExpressionLength)
-      fail("the expression is longer than " + std::to_string(limits::kMostExpressionLength) + " characters");
+    if (text.size() > limits::kMostMatrixTextLength)
+      fail("the expression is longer than " + std::to_string(limits::kMostMatrixTextLength) + " characters");
     MatrixValue result = MatrixParser(text, 0).parseWhole();
     if (!result.matrix.allFinite()) fail("the result is not a finite number");
     value = std::move(result);

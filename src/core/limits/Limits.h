@@ -22,8 +22,11 @@ inline constexpr std::uint32_t kLongestPlayTime = 600;
 // Elements of one matrix (a 1000 x 1000 matrix is 8 MB and inverts in about a second).
 inline constexpr std::size_t kMostMatrixElements = 1'000'000;
 
-// Characters of one expression: room for the largest matrix pasted as text
+// Characters of one expression or f(x): far beyond anything typed, well below what
+// its compiled code could make a burden.
+inline constexpr std::size_t kMostExpressionLength = 100'000;
+// Characters of one matrix expression: room for the largest matrix pasted as text
 // (a million elements of up to 16 characters).
-inline constexpr std::size_t kMostExpressionLength = 16'000'000;
+inline constexpr std::size_t kMostMatrixTextLength = 16'000'000;
 
 }  // namespace sonalyx::limits

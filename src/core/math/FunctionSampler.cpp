@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/engines/EvaluationError.h"
+#include "core/limits/Limits.h"
 
 namespace sonalyx {
 
@@ -146,6 +147,13 @@ bool FunctionSampler::computeFunction(DataSet& set, const std::string& expressio
   }
   if (numPts < 2) {
     errorText = invalidEntry(translate("At least 2 points are needed."));
+    return false;
+  }
+  if (static_cast<std::size_t>(numPts) > limits::kMostPoints) {
+    std::string most = translate("At most %d points can be sampled.");
+    if (const auto at = most.find("%d"); at != std::string::npos)
+      most.replace(at, 2, std::to_string(limits::kMostPoints));
+    errorText = invalidEntry(most);
     return false;
   }
   bool built = false;

@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "core/limits/Limits.h"
 #include "core/settings/SettingKey.h"
 
 // Every setting the program keeps: its stored name, type and default. The named
@@ -24,7 +25,8 @@ inline constexpr SettingKey kSetType{"setType", Integer, "0"};
 // The function's x domain and its number of sample points.
 inline constexpr SettingKey kFxX0{"fxX0", Real, "-10"};
 inline constexpr SettingKey kFxX1{"fxX1", Real, "10"};
-inline constexpr SettingKey kFxNumPts{"fxNumPts", Integer, "501", 2};
+inline constexpr SettingKey kFxNumPts{"fxNumPts", Integer, "501", 2,
+                                      static_cast<std::uint32_t>(limits::kMostPoints)};
 // The graph range.
 inline constexpr SettingKey kYMax{"yMax", Real, "10"};
 inline constexpr SettingKey kXMin{"xMin", Real, "-10"};
@@ -54,7 +56,7 @@ inline constexpr SettingKey kPlayTicks{"playTicks", Boolean, "0"};
 inline constexpr SettingKey kNumTicks{"numTicks", Integer, "10"};
 inline constexpr SettingKey kYThreshOn{"YThreshOn", Boolean, "0"};
 inline constexpr SettingKey kYThresh{"YThresh", Real, "0"};
-inline constexpr SettingKey kPlayTime{"playTime", Integer, "4"};
+inline constexpr SettingKey kPlayTime{"playTime", Integer, "4", 0, limits::kLongestPlayTime};
 inline constexpr SettingKey kIsMono{"isMono", Boolean, "1"};
 inline constexpr SettingKey kMinFreq{"minFreq", Integer, "60"};
 inline constexpr SettingKey kMaxFreq{"maxFreq", Integer, "2000"};

@@ -27,12 +27,8 @@ std::string GraphPlayback::say(const char* english) const {
 
 std::string GraphPlayback::coordinates(std::int32_t index) const {
   if (!m_store.GetAutoSpeak() || index < 0 || static_cast<std::size_t>(index) >= m_source->count()) return {};
-  const DataPoint& p = m_source->at(static_cast<std::size_t>(index));
-  double y = p.y;
-  if (m_store.GetPlotType() == 1) y = p.derivative;
-  if (m_store.GetPlotType() == 2) y = p.integral;
-  return coordinatePhrase(p.x, y, static_cast<int>(std::min<std::uint32_t>(m_store.GetNumDec(), 99)),
-                          m_translate);
+  return pointPhrase(m_source->at(static_cast<std::size_t>(index)), m_store.GetPlotType(),
+                     static_cast<int>(std::min<std::uint32_t>(m_store.GetNumDec(), 99)), m_translate);
 }
 
 // The tone of the point under the cursor (when it is heard), then its coordinates.

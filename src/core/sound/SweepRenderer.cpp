@@ -57,7 +57,11 @@ SweepRenderer::SweepRenderer(std::vector<SoundedPoint> points, const EngineSetti
   const auto n = static_cast<std::int64_t>(points.size());
   std::int64_t first = 0;
   std::int64_t end = n;
-  if (request.segment) {
+  if (request.segment && request.reverse) {
+    // Backwards from `start`: start, start - 1, ... as a sweep to an earlier point runs.
+    end = std::clamp<std::int64_t>(std::int64_t{request.start} + 1, 0, n);
+    first = std::clamp<std::int64_t>(std::int64_t{request.start} + 1 - request.count, 0, end);
+  } else if (request.segment) {
     first = std::clamp<std::int64_t>(request.start, 0, n);
     end = std::clamp<std::int64_t>(std::int64_t{request.start} + request.count, first, n);
   }

@@ -79,4 +79,12 @@ std::string spokenValue(double value, int numDec, const Translator& translate) {
   return spoken;
 }
 
+std::string pointPhrase(const DataPoint& point, std::uint32_t plotType, int numDec,
+                        const Translator& translate) {
+  double y = point.y;
+  if (plotType == 1) y = point.derivative;
+  if (plotType == 2) y = point.integral;
+  return coordinatePhrase(point.x, y, numDec, translate);
+}
+
 }  // namespace sonalyx

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
+#include "core/math/DataPoint.h"
 #include "core/speech/Translator.h"
 
 namespace sonalyx {
@@ -11,6 +13,11 @@ inline constexpr int kMostSpokenDecimals = 15;
 
 // How a point is spoken: "x = 3.14159, y = -2", each value as spokenValue says.
 std::string coordinatePhrase(double x, double y, int numDec, const Translator& translate = {});
+
+// How a point of the graph is spoken: its stored x and the value drawn for it,
+// the y, the derivative (plotType 1) or the integral (plotType 2).
+std::string pointPhrase(const DataPoint& point, std::uint32_t plotType, int numDec,
+                        const Translator& translate = {});
 
 // One value as it is spoken, with `numDec` decimal places (0 to 15; outside that
 // the nearest): rounded, trailing zeros dropped, so 123.4 with 1 is "123.4" and 2

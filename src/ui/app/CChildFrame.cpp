@@ -1,5 +1,6 @@
 #include "ui/app/CChildFrame.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -13,17 +14,23 @@
 #include <stdexcept>
 
 #include "core/files/SelectedDataSet.h"
+#include "core/sound/PlaybackCommand.h"
 #include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/CMainFrame.h"
 #include "ui/app/CommandIds.h"
 #include "ui/app/CommandTable.h"
+#include "ui/app/DataFileCommands.h"
 #include "ui/app/FrameGeometry.h"
 #include "ui/app/HelpFiles.h"
 #include "ui/app/ProductInfo.h"
 #include "ui/app/ProgramIcon.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSTabCtrl.h"
+#include "ui/graph/CGraphPlayer.h"
+#include "ui/graph/CGraphWnd.h"
+#include "ui/graph/CPlotWnd.h"
+#include "ui/pages/CDataPage.h"
 #include "ui/sheet/CCalcSheet.h"
 
 namespace sonalyx::ui {
@@ -42,6 +49,35 @@ QFont fontOfTenths(int tenths) {
   QFont font(panelFace());
   font.setPointSizeF(tenths / 10.0);
   return font;
+}
+
+PlaybackCommand playbackCommandFor(int id) {
+  switch (id) {
+    case cmd::kPlayWithTicks:
+      return PlaybackCommand::PlayWithTicks;
+    case cmd::kStopPlaying:
+      return PlaybackCommand::Stop;
+    case cmd::kNextPoint:
+      return PlaybackCommand::NextPoint;
+    case cmd::kPreviousPoint:
+      return PlaybackCommand::PreviousPoint;
+    case cmd::kNextMaximum:
+      return PlaybackCommand::NextMaximum;
+    case cmd::kNextMinimum:
+      return PlaybackCommand::NextMinimum;
+    case cmd::kFirstPoint:
+      return PlaybackCommand::FirstPoint;
+    case cmd::kLastPoint:
+      return PlaybackCommand::LastPoint;
+    case cmd::kFindIntersection:
+      return PlaybackCommand::NextCurveCrossing;
+    case cmd::kFindZeros:
+      return PlaybackCommand::NextZero;
+    case cmd::kPreviousZero:
+      return PlaybackCommand::PreviousZero;
+    default:
+      return PlaybackCommand::Play;
+  }
 }
 
 }  // namespace
@@ -71,9 +107,14 @@ CChildFrame::CChildFrame(CGraphCalcApp& app, CCommandTable& commands)
   setFocusProxy(m_sheet->tabControl());
   accessible::markLayoutOnly(this);
   accessible::markLayoutOnly(m_client);
-  m_graph = new QWidget(m_client);
-  m_graph->setAccessibleName(Translate("Graph"));
+  m_graph = new CPlotWnd(m_app, m_client);
   m_graph->setGeometry(0, 0, 1, 1);
+  m_player = new CGraphPlayer(m_app, *m_graph, this);
+  for (const std::size_t slot : {std::size_t{DataSet::Data1}, std::size_t{DataSet::Data2}}) {
+    CDataPage* page = dataPage(static_cast<int>(slot));
+    connect(page, &CDataPage::setChanged, this, &CChildFrame::onSetChanged);
+    connect(page, &CDataPage::playRequested, m_player, &CGraphPlayer::playSet);
+  }
   m_graph->hide();
   m_client->installEventFilter(this);
   setWidget(m_client);
@@ -142,6 +183,24 @@ bool CChildFrame::HasHandler(int id) {
     case cmd::kAppAbout:
     case cmd::kCloseChild:
     case cmd::kFileNew:
+    case cmd::kFileOpen:
+    case cmd::kFileSave:
+    case cmd::kCopyData:
+    case cmd::kPasteData:
+    case cmd::kEvaluateExpression1:
+    case cmd::kPlayDataSet:
+    case cmd::kPlayWithTicks:
+    case cmd::kWriteWaveFile:
+    case cmd::kFindIntersection:
+    case cmd::kFindZeros:
+    case cmd::kStopPlaying:
+    case cmd::kNextPoint:
+    case cmd::kPreviousPoint:
+    case cmd::kNextMaximum:
+    case cmd::kNextMinimum:
+    case cmd::kFirstPoint:
+    case cmd::kLastPoint:
+    case cmd::kPreviousZero:
     case cmd::kCopyMatrix:
       return true;
     default:
@@ -252,6 +311,38 @@ void CChildFrame::OnCommand(int id) {
     case cmd::kHideGraph:
       OnHideGraph();
       break;
+    case cmd::kEvaluateExpression1:
+      OnEvaluateExpression1();
+      break;
+    case cmd::kFileOpen:
+      files::OpenDataSet(this, *dataPage(DataSet::Data1));
+      break;
+    case cmd::kFileSave:
+      files::SaveDataSet(this, m_app);
+      break;
+    case cmd::kCopyData:
+      files::CopyDataSet(m_app);
+      break;
+    case cmd::kPasteData:
+      files::PasteDataSet(*dataPage(DataSet::Data1));
+      break;
+    case cmd::kWriteWaveFile:
+      m_player->writeWaveFile(this);
+      break;
+    case cmd::kPlayDataSet:
+    case cmd::kPlayWithTicks:
+    case cmd::kStopPlaying:
+    case cmd::kNextPoint:
+    case cmd::kPreviousPoint:
+    case cmd::kNextMaximum:
+    case cmd::kNextMinimum:
+    case cmd::kFirstPoint:
+    case cmd::kLastPoint:
+    case cmd::kFindIntersection:
+    case cmd::kFindZeros:
+    case cmd::kPreviousZero:
+      m_player->run(playbackCommandFor(id));
+      return;
     default:
       if (const QString page = helpPageFor(id); !page.isEmpty()) OpenHelpFile(this, page);
       break;
@@ -311,10 +402,29 @@ void CChildFrame::setGraphItem(bool graphShown) {
 
 void CChildFrame::OnRestoreDefaults() {
   m_app.settings().DeleteSettings();
-  m_app.dataSets()[DataSet::Data1].clear();
-  m_app.dataSets()[DataSet::Data2].clear();
+  // Through the pages, so that each says "clear" and can bring its set back.
+  dataPage(DataSet::Data1)->ClearSet();
+  dataPage(DataSet::Data2)->ClearSet();
   m_sheet->ReloadCurrentPage();
   redrawGraph();
+}
+
+CDataPage* CChildFrame::dataPage(int slot) const {
+  return static_cast<CDataPage*>(
+      m_sheet->page(slot == DataSet::Data2 ? CCalcSheet::kData2 : CCalcSheet::kData1));
+}
+
+void CChildFrame::OnEvaluateExpression1() {
+  m_sheet->SetActivePage(CCalcSheet::kData1);
+  dataPage(DataSet::Data1)->Evaluate();
+}
+
+void CChildFrame::onSetChanged(std::size_t slot) {
+  const std::size_t played = selectedSlot(m_app.settings().GetSetType());
+  if (played == slot || played == DataSet::Sum || played == DataSet::Difference)
+    m_graph->graph()->setCursorIndex(-1);
+  redrawGraph();
+  UpdateCommandUI();
 }
 
 void CChildFrame::OnSelfVoicing() {
@@ -328,12 +438,13 @@ void CChildFrame::OnAutoReturn() {
 }
 
 void CChildFrame::redrawGraph() {
-  if (m_graphShown) m_graph->update();
+  // Hidden, the graph only forgets its picture; it paints anew when shown.
+  m_graph->redraw();
 }
 
 bool CChildFrame::focusGraph() {
   if (!m_graphShown) return false;
-  m_graph->setFocus(Qt::OtherFocusReason);
+  m_graph->graph()->setFocus(Qt::OtherFocusReason);
   return true;
 }
 
@@ -342,7 +453,7 @@ void CChildFrame::focusPanel() {
   if (index == CCalcSheet::kData1 || index == CCalcSheet::kData2)
     m_sheet->tabControl()->setFocus(Qt::OtherFocusReason);
   else
-    m_graph->setFocus(Qt::OtherFocusReason);
+    m_graph->graph()->setFocus(Qt::OtherFocusReason);
 }
 
 void CChildFrame::recreateFonts() {
@@ -370,6 +481,14 @@ void CChildFrame::layoutClient() {
 }
 
 bool CChildFrame::isFrameKey(const QKeyEvent* event) const {
+  // Esc in a table cell being edited gives up the edit; it stops playing elsewhere.
+  // (A cell's editor is a child of its view's viewport.)
+  if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* viewport = focus ? focus->parentWidget() : nullptr;
+    const auto* view = viewport ? qobject_cast<const QAbstractItemView*>(viewport->parentWidget()) : nullptr;
+    if (view && view->viewport() == viewport) return false;
+  }
   const QKeySequence pressed(event->keyCombination());
   for (const CommandSpec& command : CCommandTable::commands()) {
     const QAction* action = m_commands.action(command.id);
@@ -391,7 +510,7 @@ bool CChildFrame::eventFilter(QObject* watched, QEvent* event) {
     const bool tabKey = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
     if (tabKey && key->modifiers().testFlag(Qt::ControlModifier) &&
         !key->modifiers().testFlag(Qt::AltModifier) && widget &&
-        (widget == m_sheet || m_sheet->isAncestorOf(widget))) {
+        (widget == m_sheet || m_sheet->isAncestorOf(widget) || m_graph->isAncestorOf(widget))) {
       m_sheet->StepPage(key->key() == Qt::Key_Backtab || key->modifiers().testFlag(Qt::ShiftModifier) ? -1
                                                                                                       : 1);
       return true;

@@ -7,7 +7,10 @@ namespace sonalyx::ui {
 
 class CCalcSheet;
 class CCommandTable;
+class CDataPage;
 class CGraphCalcApp;
+class CGraphPlayer;
+class CPlotWnd;
 
 // The one window inside the main frame for the whole run: the control panel, and
 // beside it the graph when shown. It handles the commands of the menu bar and the
@@ -20,7 +23,10 @@ class CChildFrame : public QMdiSubWindow {
   ~CChildFrame() override;
 
   CCalcSheet* sheet() const { return m_sheet; }
-  QWidget* graph() const { return m_graph; }
+  // The graph's frame: the graph, its labels and read-outs.
+  CPlotWnd* graph() const { return m_graph; }
+  CGraphPlayer* player() const { return m_player; }
+  CDataPage* dataPage(int slot) const;
   int sizeLevel() const { return m_sizeLevel; }
   bool graphShown() const { return m_graphShown; }
   const QFont& panelFont() const { return m_panelFont; }
@@ -44,6 +50,8 @@ class CChildFrame : public QMdiSubWindow {
   void OnRestoreDefaults();
   void OnSelfVoicing();
   void OnAutoReturn();
+  // F4: the Data 1 page evaluates its f(x); the graph follows when it is done.
+  void OnEvaluateExpression1();
 
  public slots:
   // Redraws the graph when it is shown.
@@ -65,12 +73,17 @@ class CChildFrame : public QMdiSubWindow {
   // Puts the show or the hide command into the "&Graph" popup's graph item.
   void setGraphItem(bool graphShown);
   bool isFrameKey(const QKeyEvent* event) const;
+  // A data set changed: the cursor of the set played starts again, the graph and
+  // the menus follow.
+  void onSetChanged(std::size_t slot);
 
   CGraphCalcApp& m_app;
   CCommandTable& m_commands;
   QWidget* m_client = nullptr;
   CCalcSheet* m_sheet = nullptr;
-  QWidget* m_graph = nullptr;
+  CPlotWnd* m_graph = nullptr;
+  // The audio-plot engine and the playback keys.
+  CGraphPlayer* m_player = nullptr;
   QFont m_panelFont;
   QFont m_smallFont;
   int m_sizeLevel = 0;

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 
+#include "ui/app/CGraphCalcApp.h"
 #include "ui/controls/VoicedText.h"
 
 namespace sonalyx::ui {
@@ -17,6 +18,8 @@ CTTSListBox::CTTSListBox(QWidget* parent) : QListWidget(parent) {
 QString CTTSListBox::itemSpokenText(int row) const {
   const QListWidgetItem* entry = item(row);
   if (!entry) return {};
+  // A line left empty between groups is heard as such, not as silence.
+  if (entry->text().trimmed().isEmpty()) return Translate("Blank line");
   return m_readSymbols ? voiced::expandSymbols(entry->text()) : entry->text();
 }
 

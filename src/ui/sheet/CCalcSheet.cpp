@@ -9,6 +9,7 @@
 #include "ui/controls/CTTSTabCtrl.h"
 #include "ui/controls/VoicedText.h"
 #include "ui/pages/CCaptionPage.h"
+#include "ui/pages/CDataPage.h"
 #include "ui/pages/calculator/CCalculatorPage.h"
 #include "ui/pages/evaluator/CEvaluatorPage.h"
 #include "ui/pages/matrix/CMatrixPage.h"
@@ -35,6 +36,10 @@ CCalcPage* createPage(int index, const QString& caption) {
       return new CWavePage(caption);
     case CCalcSheet::kSpeech:
       return new CSpeechPage(caption);
+    case CCalcSheet::kData1:
+      return new CDataPage(DataSet::Data1, caption);
+    case CCalcSheet::kData2:
+      return new CDataPage(DataSet::Data2, caption);
     default:
       return new CCaptionPage(caption);
   }

@@ -10,6 +10,7 @@
 
 #include "core/engines/MatrixEngine.h"
 #include "core/files/DataSetFile.h"
+#include "core/math/FunctionSampler.h"
 #include "core/settings/RecordingBackend.h"
 #include "core/sound/GraphPlayback.h"
 #include "core/sound/PlayTimeLimit.h"
@@ -35,6 +36,12 @@ std::string matrix(const std::string& expression) {
   MatrixEngine engine;
   std::string result;
   return engine.Calculate(expression, result) ? std::string() : engine.lastError();
+}
+
+std::string sample(const std::string& expression, int points) {
+  DataSet set;
+  std::string error;
+  return FunctionSampler().computeFunction(set, expression, 0.0, 1.0, points, error) ? std::string() : error;
 }
 
 std::string play(std::uint32_t seconds) {
@@ -70,8 +77,14 @@ TEST(Limits, EachIsRefusedWithItsMessageBeforeAnythingIsMade) {
       {"a matrix of two million", [] { return matrix("[eye(1000),eye(1000)]"); },
        "a matrix of 1000x2000 is larger than the 1000000 elements allowed"},
       {"eye(100000)", [] { return matrix("eye(100000)"); }, "eye needs a whole number from 1 to 1000"},
-      {"an expression of 16000001 characters", [] { return matrix(std::string(16000000, ' ') + "1"); },
+      {"a matrix text of 16000001 characters", [] { return matrix(std::string(16000000, ' ') + "1"); },
        "the expression is longer than 16000000 characters"},
+      {"the most points sampled", [] { return sample("x", 1000001); }, ""},
+      {"one point more", [] { return sample("x", 1000002); },
+       "Invalid entry. At most 1000001 points can be sampled."},
+      {"an f(x) of 100000 characters", [] { return sample(std::string(99999, ' ') + "x", 2); }, ""},
+      {"one character more", [] { return sample(std::string(100000, ' ') + "x", 2); },
+       "Invalid entry. The expression is longer than 100000 characters."},
       {"a play time of 1 second", [] { return play(1); }, ""},
       {"a play time of 600 seconds", [] { return play(600); }, ""},
       {"a play time of 0 seconds", [] { return play(0); }, playRange},

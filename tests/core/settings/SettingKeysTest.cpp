@@ -87,13 +87,11 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
   };
   const Row<std::uint32_t> ints[] = {
       {"setType", "0", &Store::GetSetType, &Store::SetSetType},
-      {"fxNumPts", "501", &Store::GetFxNumPts, &Store::SetFxNumPts},
       {"plotType", "0", &Store::GetPlotType, &Store::SetPlotType},
       {"frameType", "0", &Store::GetFrameType, &Store::SetFrameType},
       {"waveVolume", "50", &Store::GetWaveVolume, &Store::SetWaveVolume},
       {"tickVolume", "40", &Store::GetTickVolume, &Store::SetTickVolume},
       {"numTicks", "10", &Store::GetNumTicks, &Store::SetNumTicks},
-      {"playTime", "4", &Store::GetPlayTime, &Store::SetPlayTime},
       {"minFreq", "60", &Store::GetMinFreq, &Store::SetMinFreq},
       {"maxFreq", "2000", &Store::GetMaxFreq, &Store::SetMaxFreq},
       {"rate", "50", &Store::GetRate, &Store::SetRate},
@@ -125,10 +123,19 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
     checkRow<std::uint32_t, std::uint32_t>(row, SettingType::Integer, std::stoul(row.defaultText), 1234567,
                                            1234567);
   }
-  // A choice of three is stored as at most its last.
-  const Row<std::uint32_t> choices[] = {{"ttsMode", "2", &Store::GetTtsMode, &Store::SetTtsMode}};
-  for (const auto& row : choices)
-    checkRow<std::uint32_t, std::uint32_t>(row, SettingType::Integer, 2, 1234567, 2);
+  // Values with a most: a choice of three, the points a data set holds, the
+  // longest play time.
+  const struct {
+    Row<std::uint32_t> row;
+    std::uint32_t most;
+  } bounded[] = {
+      {{"ttsMode", "2", &Store::GetTtsMode, &Store::SetTtsMode}, 2},
+      {{"fxNumPts", "501", &Store::GetFxNumPts, &Store::SetFxNumPts}, 1000001},
+      {{"playTime", "4", &Store::GetPlayTime, &Store::SetPlayTime}, 600},
+  };
+  for (const auto& b : bounded)
+    checkRow<std::uint32_t, std::uint32_t>(b.row, SettingType::Integer, std::stoul(b.row.defaultText),
+                                           1234567, b.most);
   for (const auto& row : reals) {
     checkRow(row, SettingType::Real, std::stod(row.defaultText), -0.125, -0.125);
   }
@@ -162,7 +169,7 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
     EXPECT_EQ(backend->writes, (std::vector<NamedValue>{{row.name, row.stored}})) << row.name;
     EXPECT_TRUE(backend->reads.empty()) << row.name;
   }
-  EXPECT_EQ(allSettingKeys().size(), std::size(bools) + std::size(ints) + std::size(choices) +
+  EXPECT_EQ(allSettingKeys().size(), std::size(bools) + std::size(ints) + std::size(bounded) +
                                          std::size(reals) + std::size(texts) + std::size(versionKeys));
 }
 

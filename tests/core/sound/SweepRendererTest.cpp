@@ -74,23 +74,28 @@ TEST(SweepRenderer, YSoundsOnALogarithmicScaleBetweenTheFrequencySettings) {
 }
 
 // 50 ms windows over a rising line: every one higher than the last, and the same
-// line played backwards is the same pitch track mirrored in time.
+// line played backwards is the same pitch track mirrored in time. A segment played
+// backwards runs down from its start over the points a forward one would run up.
 TEST(SweepRenderer, RisingDataRisesAndReverseMirrorsIt) {
   const auto points = line(101, -1, 1);
-  SweepRenderer forward(points, settingsOf(2), {});
-  SweepRenderer backward(points, settingsOf(2), {.reverse = true});
-  const auto ahead = renderAll(forward);
-  const auto behind = renderAll(backward);
-  ASSERT_EQ(ahead.frames(), behind.frames());
-  const std::size_t window = frameAtSeconds(0.05);
-  const std::size_t windows = ahead.frames() / window;
-  double previous = 0.0;
-  for (std::size_t w = 0; w < windows; ++w) {
-    const double hz = test::pitch(ahead.left, w * window, (w + 1) * window);
-    EXPECT_GT(hz, previous) << "window " << w;
-    previous = hz;
-    const std::size_t mirrored = ahead.frames() - (w + 1) * window;
-    EXPECT_TRUE(agreesTo(test::pitch(behind.left, mirrored, mirrored + window), hz, 2)) << "window " << w;
+  for (const auto& [up, down] : {std::pair<SweepRequest, SweepRequest>{{}, {.reverse = true}},
+                                    {{.segment = true, .start = 41, .count = 40},
+                                     {.reverse = true, .segment = true, .start = 80, .count = 40}}}) {
+    SweepRenderer forward(points, settingsOf(2), up);
+    SweepRenderer backward(points, settingsOf(2), down);
+    const auto ahead = renderAll(forward);
+    const auto behind = renderAll(backward);
+    ASSERT_EQ(ahead.frames(), behind.frames());
+    const std::size_t window = frameAtSeconds(0.05);
+    const std::size_t windows = ahead.frames() / window;
+    double previous = 0.0;
+    for (std::size_t w = 0; w < windows; ++w) {
+      const double hz = test::pitch(ahead.left, w * window, (w + 1) * window);
+      EXPECT_GT(hz, previous) << "window " << w;
+      previous = hz;
+      const std::size_t mirrored = ahead.frames() - (w + 1) * window;
+      EXPECT_TRUE(agreesTo(test::pitch(behind.left, mirrored, mirrored + window), hz, 2)) << "window " << w;
+    }
   }
 }
 
@@ -104,7 +109,14 @@ TEST(SweepRenderer, LastsThePlayTimeShareOfItsPoints) {
   } cases[] = {
       {"whole list", 4, {}, 4.0},
       {"segment of five", 4, {.segment = true, .start = 2, .count = 5}, 2.0},
-      {"reverse segment", 4, {.reverse = true, .segment = true, .start = 2, .count = 5}, 2.0},
+      {"reverse segment, back from its start",
+       4,
+       {.reverse = true, .segment = true, .start = 6, .count = 5},
+       2.0},
+      {"reverse segment past the first point",
+       4,
+       {.reverse = true, .segment = true, .start = 2, .count = 5},
+       1.2},
       {"single point", 3, {.segment = true, .start = 9, .count = 1}, 0.3},
       {"segment past the end", 4, {.segment = true, .start = 8, .count = 5}, 0.8},
       {"segment before the start", 4, {.segment = true, .start = -3, .count = 5}, 0.8},
