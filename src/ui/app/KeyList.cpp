@@ -255,12 +255,17 @@ std::vector<KeyListEntry> otherPageKeys(const Translator& translate) {
   const std::pair<const char*, const char*> rows[] = {
       {"Enter", "On the Evaluator and Matrix pages: evaluates the expression, or stores name = expression."},
       {"Up, Down", "On the Evaluator and Matrix pages: brings earlier entries back."},
+      {"Enter", "On the Data pages, in f(x): fills the table with f(x) over the function's domain."},
+      {"Ctrl+Z", "On the Data pages: undoes a paste or a load of the data set."},
   };
   std::vector<KeyListEntry> entries;
   for (const auto& [keys, action] : rows) {
     QStringList names;
-    for (const QString& each : QString::fromLatin1(keys).split(QStringLiteral(", ")))
-      names << tr(translate, each.toLatin1().constData());
+    for (const QString& each : QString::fromLatin1(keys).split(QStringLiteral(", "))) {
+      QStringList parts;
+      for (const QString& part : each.split(QLatin1Char('+'))) parts << tr(translate, part.toLatin1().constData());
+      names << parts.join(QLatin1Char('+'));
+    }
     entries.push_back({names.join(QStringLiteral(", ")), tr(translate, action)});
   }
   return entries;
@@ -295,7 +300,7 @@ std::vector<KeyListSection> keyListSections(const Translator& given) {
           graph,
           {"menus", tr(translate, "The menus"), menuPaths(translate)},
           {"calculator", tr(translate, "The Calculator page"), calculatorKeys(translate)},
-          {"pages", tr(translate, "The Evaluator and Matrix pages"), otherPageKeys(translate)}};
+          {"pages", tr(translate, "The Evaluator, Matrix and Data pages"), otherPageKeys(translate)}};
 }
 
 const std::vector<KeyListFile>& keyListFiles() {
