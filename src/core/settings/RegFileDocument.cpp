@@ -204,7 +204,9 @@ std::vector<std::string_view> splitLines(std::string_view text) {
     std::size_t end = text.find('\n', start);
     if (end == std::string_view::npos) end = text.size();
     std::string_view line = text.substr(start, end - start);
-    if (line.ends_with('\r')) line.remove_suffix(1);
+    // Every carriage return before the line end goes: one left in a kept line would
+    // be taken for the line end when the file is read again.
+    while (line.ends_with('\r')) line.remove_suffix(1);
     lines.push_back(line);
     start = end + 1;
   }
