@@ -15,7 +15,8 @@ constexpr SettingKey kTable[] = {
     kShowYAxis,  kShowYLabels, kFrameType, kData1IsPolar, kData2IsPolar, kExpr1,        kExpr2,
     kWaveVolume, kTickVolume,  kPlayTicks, kNumTicks,     kYThreshOn,    kYThresh,      kPlayTime,
     kIsMono,     kMinFreq,     kMaxFreq,   kAutoSpeak,    kSfxOn,        kTtsOn,        kTtsMode,
-    kVoice,      kRate,        kPitch,     kVol,          kNumDec,       kIsAutoReturn,
+    kVoice,      kRate,        kPitch,     kVol,          kNumDec,       kIsAutoReturn, kTtsEngine,
+    kLexicon,
 };
 
 char lower(char c) {

@@ -74,6 +74,11 @@ inline constexpr SettingKey kPitch{"pitch", Integer, "50"};
 inline constexpr SettingKey kVol{"vol", Integer, "50"};
 inline constexpr SettingKey kNumDec{"numDec", Integer, "5"};
 inline constexpr SettingKey kIsAutoReturn{"isAutoReturn", Boolean, "0"};
+// The speech engine by the name SONALYX_SPEECH takes ("espeak-ng", "system"); the
+// variable, when set, wins for that run.
+inline constexpr SettingKey kTtsEngine{"ttsEngine", Text, "espeak-ng"};
+// The pronunciation list the voice applies before speaking (see PronunciationLexicon).
+inline constexpr SettingKey kLexicon{"lexicon", Text, ""};
 
 }  // namespace sonalyx::setting
 

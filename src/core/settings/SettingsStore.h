@@ -167,6 +167,10 @@ class SettingsStore {
   bool SetNumDec(std::uint32_t value) const { return SetInt(setting::kNumDec, value); }
   bool GetIsAutoReturn() const { return GetBool(setting::kIsAutoReturn); }
   bool SetIsAutoReturn(bool value) const { return SetBool(setting::kIsAutoReturn, value); }
+  std::string GetTtsEngine() const { return GetText(setting::kTtsEngine); }
+  bool SetTtsEngine(std::string_view text) const { return SetText(setting::kTtsEngine, text); }
+  std::string GetLexicon() const { return GetText(setting::kLexicon); }
+  bool SetLexicon(std::string_view text) const { return SetText(setting::kLexicon, text); }
 
  private:
   std::shared_ptr<SettingsBackend> m_backend;

@@ -109,4 +109,27 @@ int userDefaultLangId(const EnvironmentLookup& lookup) {
   return kEnglishUnitedStates;
 }
 
+namespace {
+
+constexpr std::string_view kCodes[] = {"en", "sv", "fr", "de", "es"};
+
+}  // namespace
+
+std::string_view languageCode(Language language) {
+  const auto index = static_cast<std::size_t>(language);
+  return index < std::size(kCodes) ? kCodes[index] : kCodes[0];
+}
+
+Language languageForCode(std::string_view code) {
+  for (std::size_t index = 0; index < std::size(kCodes); ++index)
+    if (kCodes[index] == code) return static_cast<Language>(index);
+  return Language::English;
+}
+
+bool isLanguageCode(std::string_view code) {
+  for (const std::string_view known : kCodes)
+    if (known == code) return true;
+  return false;
+}
+
 }  // namespace sonalyx

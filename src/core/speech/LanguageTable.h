@@ -22,6 +22,13 @@ Language languageForLangId(int langId);
 // here give 1033, English (United States).
 int langIdForLocale(std::string_view localeName);
 
+// The two-letter code of a language ("en", "sv", "fr", "de", "es"), as the help
+// folders are named; and the language a code names, English for any other.
+std::string_view languageCode(Language language);
+Language languageForCode(std::string_view code);
+// Whether `code` names one of the languages above.
+bool isLanguageCode(std::string_view code);
+
 // Reads an environment variable; returns "" when it is not set.
 using EnvironmentLookup = std::function<std::string(const std::string& name)>;
 

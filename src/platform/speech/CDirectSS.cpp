@@ -1,6 +1,7 @@
 #include "platform/speech/CDirectSS.h"
 
 #include "core/settings/FirstStart.h"
+#include "core/speech/PronunciationLexicon.h"
 #include "core/speech/VoiceChoice.h"
 #include "core/speech/VoicingMode.h"
 #include "core/utility/NumberFormat.h"
@@ -42,12 +43,20 @@ bool CDirectSS::Create(std::unique_ptr<SpeechEngine> engine) {
 bool CDirectSS::Create(OutputSequencer& sequencer) {
   attach(sequencer);
   if (!m_log) m_log = SpeechLog::fromEnvironment();
-  const std::string chosen = SpeechEngineRegistry::chosenName();
+  const std::string chosen = SpeechEngineRegistry::chosenName(m_settings.GetTtsEngine());
   std::unique_ptr<SpeechEngine> engine = SpeechEngineRegistry::create(chosen, sequencer.output());
   // A user who cannot see must not be left without a voice because the chosen one is missing.
   if (!engine && chosen != SpeechEngineRegistry::kDefaultEngine) {
     engine = SpeechEngineRegistry::create(SpeechEngineRegistry::kDefaultEngine, sequencer.output());
   }
+  return Create(std::move(engine));
+}
+
+bool CDirectSS::UseEngine(const std::string& name) {
+  if (m_sequencer == nullptr) return false;
+  std::unique_ptr<SpeechEngine> engine = SpeechEngineRegistry::create(name, m_sequencer->output());
+  if (!engine) return false;
+  if (m_engine) m_engine->stop();
   return Create(std::move(engine));
 }
 
@@ -60,6 +69,8 @@ void CDirectSS::attach(OutputSequencer& sequencer) {
 void CDirectSS::Speak(SpeechKind kind, const std::string& text) {
   if (!m_engine || !m_enabled) return;
   const bool screenReaderRunning = m_screenReader != nullptr && m_screenReader->running();
+  // Read at every utterance, so a change in the list is heard at once.
+  const std::string spoken = PronunciationLexicon::fromStoredText(m_settings.GetLexicon()).apply(text);
   switch (routeSpeech(kind, voicingModeFromSetting(m_settings.GetTtsMode()), screenReaderRunning)) {
     case SpeechRoute::LeftOut:
       return;
@@ -67,14 +78,14 @@ void CDirectSS::Speak(SpeechKind kind, const std::string& text) {
       if (m_log) m_log->append(text);
       // One voice at a time: the own voice's last words end as the queue takes over.
       m_engine->stop();
-      if (!m_screenReader->present(text))
-        m_engine->speak(text, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
+      if (!m_screenReader->present(spoken))
+        m_engine->speak(spoken, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
       return;
     case SpeechRoute::OwnVoice:
       break;
   }
   if (m_log) m_log->append(text);
-  m_engine->speak(text, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
+  m_engine->speak(spoken, m_sequencer != nullptr ? m_sequencer->speechDelayMs() : 0.0);
 }
 
 void CDirectSS::Stop() {

@@ -37,9 +37,13 @@ class CDirectSS {
   // Takes `engine` and applies the stored voice, rate, pitch and volume; false
   // (and silence) without one.
   bool Create(std::unique_ptr<SpeechEngine> engine);
-  // The engine SONALYX_SPEECH names (espeak-ng by default) playing into the
-  // sequencer's output, the log SONALYX_SPEECH_LOG names, and the sequencer's order.
+  // The engine SONALYX_SPEECH names, else the stored ttsEngine (espeak-ng by
+  // default), playing into the sequencer's output, the log SONALYX_SPEECH_LOG
+  // names, and the sequencer's order.
   bool Create(OutputSequencer& sequencer);
+  // Changes to the engine called `name`, with the stored settings, playing where the
+  // current one plays; false, and the current engine kept, when it cannot start.
+  bool UseEngine(const std::string& name);
   // Speech waits for the sounds the sequencer says lead it, and its stopAll()
   // silences this voice too.
   void attach(OutputSequencer& sequencer);
@@ -51,7 +55,8 @@ class CDirectSS {
   ScreenReader* screenReader() const { return m_screenReader; }
 
   // Nothing while disabled. Otherwise cuts off the current utterance and says
-  // `text` (after whatever sound leads it), writing it to the log first. `kind`
+  // `text` (after whatever sound leads it) with the stored pronunciation list
+  // applied, writing the text as given to the log first. `kind`
   // tells an echo of focus and state from content only the program knows: an echo
   // left to the screen reader is neither said nor logged, and content for its
   // queue falls back to the own voice when the queue cannot take it.

@@ -78,8 +78,17 @@ std::unique_ptr<SpeechEngine> SpeechEngineRegistry::create(const std::string& na
 }
 
 std::string SpeechEngineRegistry::chosenName() {
+  return chosenName(kDefaultEngine);
+}
+
+std::string SpeechEngineRegistry::chosenName(const std::string& stored) {
+  if (chosenByEnvironment()) return std::getenv("SONALYX_SPEECH");
+  return has(stored) ? stored : kDefaultEngine;
+}
+
+bool SpeechEngineRegistry::chosenByEnvironment() {
   const char* chosen = std::getenv("SONALYX_SPEECH");
-  return chosen != nullptr && *chosen != '\0' ? chosen : kDefaultEngine;
+  return chosen != nullptr && *chosen != '\0';
 }
 
 }  // namespace sonalyx

@@ -31,6 +31,11 @@ class SpeechEngineRegistry {
 
   // The name SONALYX_SPEECH gives, else kDefaultEngine.
   static std::string chosenName();
+  // The name SONALYX_SPEECH gives, else `stored` (the user's choice) when an engine
+  // has that name, else kDefaultEngine.
+  static std::string chosenName(const std::string& stored);
+  // Whether SONALYX_SPEECH chooses the engine for this run.
+  static bool chosenByEnvironment();
 };
 
 }  // namespace sonalyx

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QStringList>
 #include <QVBoxLayout>
 
 #include "ui/app/CAccessibilityHooks.h"
@@ -37,6 +38,20 @@ QString CAboutDlg::versionLine() {
   return QStringLiteral("%1 %2").arg(Translate("Version"), QString::fromUtf8(product::kVersion));
 }
 
+QString CAboutDlg::licenceLine() {
+  return Translate("Licence: ") + Translate(product::kLicence) + QLatin1Char('.');
+}
+
+QString CAboutDlg::librariesLine() {
+  QStringList parts;
+  for (const product::UsedLibrary& library : product::kLibraries) {
+    QString name = QString::fromUtf8(library.name);
+    if (name == QStringLiteral("Qt")) name += QLatin1Char(' ') + QString::fromLatin1(qVersion());
+    parts << QStringLiteral("%1 (%2)").arg(name, Translate(library.licence));
+  }
+  return Translate("Libraries used: ") + parts.join(QStringLiteral("; ")) + QLatin1Char('.');
+}
+
 CAboutDlg::CAboutDlg(QWidget* parent) : QDialog(parent) {
   CAccessibilityHooks::markSelfVoiced(this);
   setWindowTitle(Translate("About Sonalyx"));
@@ -60,6 +75,8 @@ CAboutDlg::CAboutDlg(QWidget* parent) : QDialog(parent) {
                           "entirely self-voicing and provides auditory response for program navigation."}),
       this);
   addLine(text, versionLine(), this);
+  addLine(text, licenceLine(), this);
+  addLine(text, librariesLine(), this);
   addLine(text, Translate("Send comments and suggestions to:"), this);
 
   m_web = new CHyperLink(QString::fromUtf8(product::kWebAddress), this);

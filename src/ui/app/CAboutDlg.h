@@ -19,6 +19,10 @@ class CAboutDlg : public QDialog {
 
   // "Version" (translated), a blank and the product version.
   static QString versionLine();
+  // "Licence: " and the program's licence.
+  static QString licenceLine();
+  // "Libraries used: " and each library with its licence (Qt with its version).
+  static QString librariesLine();
 
   CTTSStatic* productLine() const { return m_product; }
   CHyperLink* webLink() const { return m_web; }

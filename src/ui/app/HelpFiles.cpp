@@ -1,8 +1,11 @@
 #include "ui/app/HelpFiles.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QUrl>
 
+#include "ui/app/CGraphCalcApp.h"
+#include "ui/app/CTranslationDictionary.h"
 #include "ui/app/CommandIds.h"
 #include "ui/app/ProgramFiles.h"
 
@@ -11,29 +14,28 @@ namespace sonalyx::ui {
 QString helpPageFor(int commandId) {
   switch (commandId) {
     case cmd::kUserManual:
-      return QStringLiteral("Manual\\en\\QuillmontSLXManual.html");
-    case cmd::kCalculatorHotkeys:
-      return QStringLiteral("Manual\\en\\hotkeys\\html\\index-3.html");
-    case cmd::kGraphingHotkeys:
-      return QStringLiteral("Manual\\en\\hotkeys\\html\\index-4.html");
-    case cmd::kNavigationalHotkeys:
-      return QStringLiteral("Manual\\en\\hotkeys\\html\\index-5.html");
     case cmd::kTutorialIndex:
-      return QStringLiteral("TutorialIndex.htm");
+      return QStringLiteral("index.html");
+    case cmd::kCalculatorHotkeys:
+      return QStringLiteral("keys-calculator.html");
+    case cmd::kGraphingHotkeys:
+      return QStringLiteral("keys-graph.html");
+    case cmd::kNavigationalHotkeys:
+      return QStringLiteral("keys-navigation.html");
     case cmd::kTutorialCalculator:
-      return QStringLiteral("TCalculator.htm");
+      return QStringLiteral("calculator.html");
     case cmd::kTutorialEvaluator:
-      return QStringLiteral("TEvaluator.htm");
+      return QStringLiteral("evaluator.html");
     case cmd::kTutorialMatrix:
-      return QStringLiteral("TMatrix.htm");
+      return QStringLiteral("matrix.html");
     case cmd::kTutorialSpeech:
-      return QStringLiteral("TSpeech.htm");
+      return QStringLiteral("speech.html");
     case cmd::kTutorialGraphing:
-      return QStringLiteral("TGraphing.htm");
+      return QStringLiteral("graph.html");
     case cmd::kTutorialPrinting:
-      return QStringLiteral("TPrinting.htm");
+      return QStringLiteral("printing.html");
     case cmd::kOnlineHelp:
-      return QStringLiteral("OnlineHelp.html");
+      return QStringLiteral("online.html");
     default:
       return {};
   }
@@ -43,11 +45,19 @@ QString helpFolder() {
   return programDataFolder(QStringLiteral("help")) + QLatin1Char('/');
 }
 
-bool OpenHelpFile(QWidget* /*owner*/, const QString& relativePath) {
-  if (relativePath.isEmpty()) return false;
-  QString path = relativePath;
-  path.replace(QLatin1Char('\\'), QLatin1Char('/'));
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(helpFolder() + path));
+QString helpPagePath(const QString& page, Language language) {
+  const QString translated =
+      helpFolder() + QString::fromLatin1(languageCode(language).data(), languageCode(language).size()) +
+      QLatin1Char('/') + page;
+  if (QFileInfo::exists(translated)) return translated;
+  return helpFolder() + QStringLiteral("en/") + page;
+}
+
+bool OpenHelpFile(QWidget* /*owner*/, const QString& page) {
+  if (page.isEmpty()) return false;
+  const CGraphCalcApp* app = CGraphCalcApp::instance();
+  const Language language = app ? app->dictionary().language() : Language::English;
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(helpPagePath(page, language)));
 }
 
 }  // namespace sonalyx::ui

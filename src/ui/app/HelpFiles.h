@@ -2,20 +2,26 @@
 
 #include <QString>
 
+#include "core/speech/LanguageTable.h"
+
 class QWidget;
 
 namespace sonalyx::ui {
 
-// The help page a help command opens, relative to the help folder (with "\" as on
-// the program's original platform); empty for any other command. The pages are
-// always the English ones.
+// The help page a help command opens, by its file name inside a language's help
+// folder; empty for any other command.
 QString helpPageFor(int commandId);
 
 // The folder "help" beside the program file, or where an installation put it.
 QString helpFolder();
 
-// Opens a help page in the user's browser. A page that is missing is the browser's
-// to report; false only when nothing could be asked to open it.
-bool OpenHelpFile(QWidget* owner, const QString& relativePath);
+// Where a page is read: help/<code>/ of `language` when that folder has it,
+// otherwise the English one, help/en/.
+QString helpPagePath(const QString& page, Language language);
+
+// Opens a help page in the user's browser, in the program's language where the
+// help has it. A page that is missing is the browser's to report; false only when
+// nothing could be asked to open it.
+bool OpenHelpFile(QWidget* owner, const QString& page);
 
 }  // namespace sonalyx::ui

@@ -14,6 +14,27 @@ inline constexpr const char* kVersion = SONALYX_PRODUCT_VERSION;
 inline constexpr const char* kAppName = "sonalyx";
 inline constexpr const char* kTitle = "Sonalyx";
 
+// The program's licence. eSpeak NG, which the program links, is under the GPL
+// version 3 or later, so the whole is too.
+inline constexpr const char* kLicence = "GNU General Public License, version 3 or later";
+
+// The libraries and data the program is built with, and their licences, as the
+// About box names them.
+struct UsedLibrary {
+  const char* name;
+  const char* licence;
+};
+inline constexpr UsedLibrary kLibraries[] = {
+    {"Qt", "GNU Lesser General Public License, version 3"},
+    {"eSpeak NG", "GNU General Public License, version 3 or later"},
+    {"speech-dispatcher (libspeechd)", "GNU Lesser General Public License, version 2.1 or later"},
+    {"SDL 2", "zlib License"},
+    {"FluidSynth", "GNU Lesser General Public License, version 2.1 or later"},
+    {"libsndfile", "GNU Lesser General Public License, version 2.1 or later"},
+    {"Eigen", "Mozilla Public License, version 2.0"},
+    {"TimGM6mb sound font", "GNU General Public License, version 2"},
+};
+
 inline constexpr const char* kWebAddress = "https://www.quillmont.example/";
 inline constexpr const char* kEmailAddress = "sonalyx@quillmont.example";
 

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QFocusEvent>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/controls/VoicedText.h"
@@ -62,6 +63,8 @@ void CTTSButton::Speak(SpeechKind kind) {
 }
 
 void CTTSButton::PressFeedback() {
+  m_pressing = true;
+  QTimer::singleShot(0, this, [this] { m_pressing = false; });
   if (m_toggleSound) {
     voiced::playSoundEffect(m_button->isChecked() ? 2 : 3);
     Speak(SpeechKind::Echo);
@@ -74,7 +77,8 @@ void CTTSButton::PressFeedback() {
 bool CTTSButton::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_button && event->type() == QEvent::FocusIn) {
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && m_button->isActiveWindow())
+    if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && m_button->isActiveWindow() &&
+        !(m_pressing && (m_toggleSound || m_pressSound)))
       Speak(SpeechKind::Echo);
   }
   return QObject::eventFilter(watched, event);

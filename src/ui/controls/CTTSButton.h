@@ -61,6 +61,9 @@ class CTTSButton : public QObject {
   bool m_announceType = false;
   bool m_toggleSound = false;
   bool m_pressSound = false;
+  // Set while a press is being handled: an arrow in a group of radio buttons presses
+  // the next one and then moves the focus to it, and the press has said it already.
+  bool m_pressing = false;
 };
 
 }  // namespace sonalyx::ui

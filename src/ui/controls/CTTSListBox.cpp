@@ -20,7 +20,7 @@ QString CTTSListBox::itemSpokenText(int row) const {
   if (!entry) return {};
   // A line left empty between groups is heard as such, not as silence.
   if (entry->text().trimmed().isEmpty()) return Translate("Blank line");
-  return voiced::expandSymbols(entry->text());
+  return m_readSymbols ? voiced::expandSymbols(entry->text()) : entry->text();
 }
 
 void CTTSListBox::SpeakItem(SpeechKind kind, int row) {

@@ -14,6 +14,9 @@ class CTTSListBox : public QListWidget {
   explicit CTTSListBox(QWidget* parent = nullptr);
 
   void setSpeakSelection(bool on) { m_speakSelection = on; }
+  // Read the items' symbols as words (on unless set): off for names, such as
+  // voices, whose brackets are no arithmetic.
+  void setReadSymbols(bool on) { m_readSymbols = on; }
   bool speakSelection() const { return m_speakSelection; }
 
   QString itemSpokenText(int row) const;
@@ -25,6 +28,7 @@ class CTTSListBox : public QListWidget {
  private:
   bool m_speakSelection = false;
   bool m_selectingOnFocus = false;
+  bool m_readSymbols = true;
 };
 
 }  // namespace sonalyx::ui

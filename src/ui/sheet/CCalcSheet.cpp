@@ -13,6 +13,9 @@
 #include "ui/pages/calculator/CCalculatorPage.h"
 #include "ui/pages/evaluator/CEvaluatorPage.h"
 #include "ui/pages/matrix/CMatrixPage.h"
+#include "ui/pages/plot/CPlotPage.h"
+#include "ui/pages/speech/CSpeechPage.h"
+#include "ui/pages/wave/CWavePage.h"
 
 namespace sonalyx::ui {
 
@@ -27,6 +30,12 @@ CCalcPage* createPage(int index, const QString& caption) {
       return new CEvaluatorPage(caption);
     case CCalcSheet::kMatrix:
       return new CMatrixPage(caption);
+    case CCalcSheet::kPlot:
+      return new CPlotPage(caption);
+    case CCalcSheet::kWave:
+      return new CWavePage(caption);
+    case CCalcSheet::kSpeech:
+      return new CSpeechPage(caption);
     case CCalcSheet::kData1:
       return new CDataPage(DataSet::Data1, caption);
     case CCalcSheet::kData2:

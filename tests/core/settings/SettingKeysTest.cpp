@@ -112,6 +112,8 @@ TEST(SettingKeys, TableAndNamedAccessorsAgreeWithEveryKey) {
       {"expr1", "", &Store::GetExpr1, &Store::SetExpr1},
       {"expr2", "", &Store::GetExpr2, &Store::SetExpr2},
       {"voice", "Sam", &Store::GetVoice, &Store::SetVoice},
+      {"ttsEngine", "espeak-ng", &Store::GetTtsEngine, &Store::SetTtsEngine},
+      {"lexicon", "", &Store::GetLexicon, &Store::SetLexicon},
   };
   for (const auto& row : bools) {
     checkRow(row, SettingType::Boolean, *row.defaultText == '1', *row.defaultText != '1',

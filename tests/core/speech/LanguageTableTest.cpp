@@ -117,5 +117,22 @@ TEST(LanguageTable, ReadsTheEnvironmentInPosixOrder) {
   }
 }
 
+TEST(LanguageTable, NamesTheHelpFolderOfEachLanguage) {
+  const struct {
+    Language language;
+    const char* code;
+  } rows[] = {{Language::English, "en"},
+              {Language::Swedish, "sv"},
+              {Language::French, "fr"},
+              {Language::German, "de"},
+              {Language::Spanish, "es"}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(languageCode(row.language), row.code);
+    EXPECT_EQ(languageForCode(row.code), row.language);
+    EXPECT_TRUE(isLanguageCode(row.code));
+  }
+  EXPECT_FALSE(isLanguageCode("it"));
+}
+
 }  // namespace
 }  // namespace sonalyx

@@ -42,5 +42,36 @@ TEST(PageAccessibility, EveryControlHasANameAndADescription) {
   }
 }
 
+// The settings pages likewise; their check boxes and radio buttons say all there is
+// to them by name and state, within their named groups.
+TEST(PageAccessibility, EverySettingsControlHasANameAndTheFieldsADescription) {
+  test::ProgramUnderTest program;
+  ASSERT_TRUE(program.started());
+  CCalcSheet* sheet = program.child()->sheet();
+  for (const int index : {CCalcSheet::kPlot, CCalcSheet::kWave, CCalcSheet::kSpeech}) {
+    CCalcPage* page = sheet->page(index);
+    int controls = 0;
+    for (QWidget* widget : page->findChildren<QWidget*>()) {
+      if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() || widget->window() != page->window())
+        continue;
+      ++controls;
+      QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
+      ASSERT_NE(control, nullptr);
+      const std::string what = QString("%1 \"%2\" on page %3")
+                                   .arg(widget->metaObject()->className(), control->text(QAccessible::Name))
+                                   .arg(index)
+                                   .toStdString();
+      EXPECT_FALSE(control->text(QAccessible::Name).trimmed().isEmpty()) << what;
+      const QAccessible::Role role = control->role();
+      EXPECT_TRUE(role != QAccessible::Client && role != QAccessible::Pane && role != QAccessible::NoRole)
+          << what;
+      if (role != QAccessible::CheckBox && role != QAccessible::RadioButton) {
+        EXPECT_FALSE(control->text(QAccessible::Description).trimmed().isEmpty()) << what;
+      }
+    }
+    EXPECT_GE(controls, 10) << index;
+  }
+}
+
 }  // namespace
 }  // namespace sonalyx::ui
