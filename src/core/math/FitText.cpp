@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
@@ -14,7 +15,7 @@ std::string FitText::translate(const std::string& english) const {
 }
 
 std::string FitText::countLine(std::size_t count) const {
-  return translate("Number of points:") + ' ' + std::to_string(count);
+  return translate(SLX_TR("Number of points:")) + ' ' + std::to_string(count);
 }
 
 std::string FitText::valueLine(const std::string& label, double value) const {

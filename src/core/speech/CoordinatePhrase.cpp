@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/FPRounder.h"
 #include "core/utility/NumberFormat.h"
 
@@ -43,12 +44,13 @@ bool isZeroText(std::string_view text) {
 }  // namespace
 
 std::string coordinatePhrase(double x, double y, int numDec, const Translator& translate) {
-  return "x = " + spokenValue(x, numDec, translate) + ", y = " + spokenValue(y, numDec, translate);
+  return fillPlaceholders(translateWith(translate, SLX_TR("x = %1, y = %2")),
+                          {spokenValue(x, numDec, translate), spokenValue(y, numDec, translate)});
 }
 
 std::string powerOfTenWords(const std::string& mantissa, int exponent, const Translator& translate) {
-  std::string words = mantissa + ' ' + translateWith(translate, "times ten to the") + ' ';
-  if (exponent < 0) words += translateWith(translate, "minus") + ' ';
+  std::string words = mantissa + ' ' + translateWith(translate, SLX_TR("times ten to the")) + ' ';
+  if (exponent < 0) words += translateWith(translate, SLX_TR("minus")) + ' ';
   return words + std::to_string(exponent < 0 ? -exponent : exponent);
 }
 

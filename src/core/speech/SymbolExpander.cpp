@@ -1,15 +1,17 @@
 #include "core/speech/SymbolExpander.h"
 
 #include <utility>
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
 namespace {
 
 constexpr SymbolWords kExpressionSymbols[] = {
-    {"-", " minus "},           {"+", " plus "},       {"*", " times "},       {"/", " divide "},
-    {"[", " begin matrix "},    {"]", " end matrix "}, {",", " column "},      {";", " row "},
-    {"^", " to the power of "}, {"(", " open paren "}, {")", " close paren "}, {"", ""},
+    {"-", SLX_TR(" minus ")},      {"+", SLX_TR(" plus ")},         {"*", SLX_TR(" times ")},
+    {"/", SLX_TR(" divide ")},     {"[", SLX_TR(" begin matrix ")}, {"]", SLX_TR(" end matrix ")},
+    {",", SLX_TR(" column ")},     {";", SLX_TR(" row ")},          {"^", SLX_TR(" to the power of ")},
+    {"(", SLX_TR(" open paren ")}, {")", SLX_TR(" close paren ")},  {"", ""},
 };
 
 // Bytes of the UTF-8 character that starts at `at`. A byte that does not start a
@@ -62,8 +64,8 @@ void SymbolExpander::BuildSymbolMap() {
     if (row.symbol.empty() && row.spoken.empty()) break;
     m_symbolMap.emplace(std::string(row.symbol), translateWith(m_translator, std::string(row.spoken)));
   }
-  m_timesTenTo = ' ' + translateWith(m_translator, "times ten to the") + ' ';
-  m_minus = translateWith(m_translator, "minus") + ' ';
+  m_timesTenTo = ' ' + translateWith(m_translator, SLX_TR("times ten to the")) + ' ';
+  m_minus = translateWith(m_translator, SLX_TR("minus")) + ' ';
 }
 
 void SymbolExpander::ExpandSymbols(std::string& text) const {
