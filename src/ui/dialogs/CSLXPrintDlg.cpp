@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFormLayout>
@@ -95,6 +96,7 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   outputLayout->addRow(m_toFile);
   m_fileName = edit(output, "File name:", "File name");
   m_fileName->setAccessibleDescription(Translate("The PDF file the page is saved in."));
+  m_fileName->setMathSymbols(false);
   m_fileName->setText(kept.fileName.empty() ? defaultFileName() : QString::fromStdString(kept.fileName));
   outputLayout->addRow(new QLabel(Translate("File name:"), output), m_fileName);
   m_font = combo(output, "Font:", "Font");
@@ -405,11 +407,29 @@ void CSLXPrintDlg::onPrint() {
 
 void CSLXPrintDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  m_printer->setFocus(Qt::OtherFocusReason);
-  QString text = windowTitle();
-  if (m_app.printState().printerNames.empty())
-    text += QStringLiteral(". ") + Translate("No printer is installed: Print saves the graph as a PDF file.");
-  voice::Speak(SpeechKind::Content, text + QStringLiteral(". ") + m_printer->spokenText());
+  // With no printer the list is off, and the file's name comes first.
+  QWidget* first = m_app.printState().printerNames.empty() ? static_cast<QWidget*>(m_fileName) : m_printer;
+  first->setFocus(Qt::OtherFocusReason);
+  m_greeted = false;
+}
+
+bool CSLXPrintDlg::event(QEvent* event) {
+  const bool handled = QDialog::event(event);
+  if (event->type() == QEvent::WindowActivate && !m_greeted) {
+    m_greeted = true;
+    // After the focused control's own words, which this repeats after the title.
+    QTimer::singleShot(0, this, [this] {
+      QString text = windowTitle() + QStringLiteral(". ");
+      if (m_app.printState().printerNames.empty()) {
+        text += Translate("No printer is installed: Print saves the graph as a PDF file.") +
+                QLatin1Char(' ') + m_fileName->spokenText();
+      } else {
+        text += m_printer->spokenText();
+      }
+      voice::Speak(SpeechKind::Content, text);
+    });
+  }
+  return handled;
 }
 
 }  // namespace sonalyx::ui

@@ -42,6 +42,7 @@ class CSLXPrintDlg : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void onPrint();
@@ -82,6 +83,7 @@ class CSLXPrintDlg : public QDialog {
   QPushButton* m_print = nullptr;
   GraphStyle m_style;
   QString m_outcome;
+  bool m_greeted = false;
 };
 
 }  // namespace sonalyx::ui
