@@ -553,6 +553,32 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="58"/>
+        <source>The width must be from %s to %s inches, the page&apos;s width.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="63"/>
+        <source>The height must be from %s to %s inches, the page&apos;s height.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="69"/>
+        <source>The number of copies must be from %d to %d.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="75"/>
+        <source>%.1f x %.1f inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="82"/>
+        <location filename="../src/ui/graph/CPlotWnd.cpp" line="60"/>
+        <source>y-axis times %s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <location filename="../src/core/pages/SpeechPageForm.cpp" line="27"/>
         <source>The number of decimal places must be from %d to %d.</source>
         <translation type="unfinished"></translation>
@@ -1048,22 +1074,32 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/app/CChildFrame.cpp" line="394"/>
+        <location filename="../src/ui/app/CChildFrame.cpp" line="401"/>
         <source>&amp;Hide Graph</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/app/CChildFrame.cpp" line="395"/>
+        <location filename="../src/ui/app/CChildFrame.cpp" line="402"/>
         <source>&amp;Show Graph</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/app/CChildFrame.cpp" line="438"/>
+        <location filename="../src/ui/app/CChildFrame.cpp" line="437"/>
+        <source>Print Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/app/CChildFrame.cpp" line="437"/>
+        <source>No data set found - nothing to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/app/CChildFrame.cpp" line="460"/>
         <source>Auto return: enabled.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/app/CChildFrame.cpp" line="438"/>
+        <location filename="../src/ui/app/CChildFrame.cpp" line="460"/>
         <source>Auto return: disabled.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1719,6 +1755,287 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="78"/>
+        <source>SLX - Data Plot Print Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="83"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="85"/>
+        <source>Printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="85"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="93"/>
+        <source>Printer:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="87"/>
+        <source>No printer installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="88"/>
+        <source>With no printer, Print saves the graph as a PDF file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="94"/>
+        <source>Print to file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="95"/>
+        <source>Saves the page as a PDF file instead of printing it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="98"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="102"/>
+        <source>File name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="98"/>
+        <source>File name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="99"/>
+        <source>The PDF file the page is saved in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="103"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="114"/>
+        <source>Font:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="103"/>
+        <source>Font</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="107"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="112"/>
+        <source>Font size:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="107"/>
+        <source>Font size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="116"/>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="118"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="130"/>
+        <source>Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="118"/>
+        <source>Width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="119"/>
+        <source>The graph&apos;s width on paper, in inches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="121"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="131"/>
+        <source>Height:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="121"/>
+        <source>Height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="122"/>
+        <source>The graph&apos;s height on paper, in inches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="124"/>
+        <source>Portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="125"/>
+        <source>Landscape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="133"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="135"/>
+        <source>Paper size:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="133"/>
+        <source>Paper size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="136"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="138"/>
+        <source>Number of copies:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="136"/>
+        <source>Number of copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="139"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="142"/>
+        <source>Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="139"/>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="140"/>
+        <source>Printed above the graph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="144"/>
+        <source>Data Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="146"/>
+        <source>Draw Data Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="146"/>
+        <source>Draw line through points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="147"/>
+        <source>Draw both line and data points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="155"/>
+        <location filename="../src/ui/pages/plot/CPlotPage.cpp" line="122"/>
+        <source>Axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="157"/>
+        <source>Show X-Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="158"/>
+        <source>Show Y-Axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="163"/>
+        <source>Axis Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="165"/>
+        <source>X Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="166"/>
+        <source>Y Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="171"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="173"/>
+        <location filename="../src/ui/pages/wave/CWavePage.cpp" line="58"/>
+        <source>Tick Marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="173"/>
+        <source>No Tick Marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="173"/>
+        <source>Grid Lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="181"/>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="185"/>
+        <location filename="../src/ui/pages/CSettingsPage.cpp" line="41"/>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="189"/>
+        <source>Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="190"/>
+        <location filename="../src/ui/pages/speech/CLexiconDlg.cpp" line="79"/>
+        <location filename="../src/ui/pages/speech/CSpeechEngineDlg.cpp" line="45"/>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="239"/>
+        <source>No printer is installed: the graph can only be saved as a PDF file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="379"/>
+        <source>Type the name of the PDF file to save the graph in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="399"/>
+        <source>The graph could not be printed on %s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="402"/>
+        <source>The graph is printed on %s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="403"/>
+        <source>The graph is saved in %s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="425"/>
+        <source>No printer is installed: Print saves the graph as a PDF file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <location filename="../src/ui/graph/CGraphPlayer.cpp" line="73"/>
         <source>Write Wave File</source>
         <translation type="unfinished"></translation>
@@ -1770,11 +2087,6 @@
     <message>
         <location filename="../src/ui/graph/CPlotWnd.cpp" line="53"/>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/graph/CPlotWnd.cpp" line="60"/>
-        <source>y-axis times %s</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1945,11 +2257,6 @@
     <message>
         <location filename="../src/ui/pages/CDataTableView.cpp" line="46"/>
         <source>Empty.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/pages/CSettingsPage.cpp" line="41"/>
-        <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2280,11 +2587,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/pages/plot/CPlotPage.cpp" line="122"/>
-        <source>Axes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <location filename="../src/ui/pages/plot/CPlotPage.cpp" line="125"/>
         <source>Show X-axis</source>
         <translation type="unfinished"></translation>
@@ -2390,12 +2692,6 @@
     <message>
         <location filename="../src/ui/pages/speech/CLexiconDlg.cpp" line="69"/>
         <source>Takes the chosen word out of the list.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/pages/speech/CLexiconDlg.cpp" line="79"/>
-        <location filename="../src/ui/pages/speech/CSpeechEngineDlg.cpp" line="45"/>
-        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2642,11 +2938,6 @@
     <message>
         <location filename="../src/ui/pages/wave/CWavePage.cpp" line="57"/>
         <source>Tick Marks:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/pages/wave/CWavePage.cpp" line="58"/>
-        <source>Tick Marks</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

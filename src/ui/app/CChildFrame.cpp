@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPrinterInfo>
 #include <QScreen>
 #include <stdexcept>
 
@@ -23,10 +24,12 @@
 #include "ui/app/DataFileCommands.h"
 #include "ui/app/FrameGeometry.h"
 #include "ui/app/HelpFiles.h"
+#include "ui/app/PrintSetupState.h"
 #include "ui/app/ProductInfo.h"
 #include "ui/app/ProgramIcon.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSTabCtrl.h"
+#include "ui/dialogs/CSLXPrintDlg.h"
 #include "ui/graph/CGraphPlayer.h"
 #include "ui/graph/CGraphWnd.h"
 #include "ui/graph/CPlotWnd.h"
@@ -202,6 +205,7 @@ bool CChildFrame::HasHandler(int id) {
     case cmd::kLastPoint:
     case cmd::kPreviousZero:
     case cmd::kCopyMatrix:
+    case cmd::kPrintGraph:
       return true;
     default:
       return false;
@@ -314,6 +318,9 @@ void CChildFrame::OnCommand(int id) {
     case cmd::kEvaluateExpression1:
       OnEvaluateExpression1();
       break;
+    case cmd::kPrintGraph:
+      OnPrintGraph();
+      break;
     case cmd::kFileOpen:
       files::OpenDataSet(this, *dataPage(DataSet::Data1));
       break;
@@ -417,6 +424,21 @@ CDataPage* CChildFrame::dataPage(int slot) const {
 void CChildFrame::OnEvaluateExpression1() {
   m_sheet->SetActivePage(CCalcSheet::kData1);
   dataPage(DataSet::Data1)->Evaluate();
+}
+
+void CChildFrame::OnPrintGraph() {
+  // Asked anew each time: a printer may have been added while the program ran.
+  PrintSetupState& state = m_app.printState();
+  state.printerNames.clear();
+  for (const QString& name : QPrinterInfo::availablePrinterNames())
+    state.printerNames.push_back(name.toStdString());
+  // What the graph shows is printed: f(x) is not sampled again over a typed table.
+  if (selectedDataSet(m_app.dataSets(), m_app.settings().GetSetType()).count() == 0) {
+    QMessageBox::critical(this, Translate("Print Error"), Translate("No data set found - nothing to print."));
+    return;
+  }
+  CSLXPrintDlg dialog(m_app, this);
+  dialog.exec();
 }
 
 void CChildFrame::onSetChanged(std::size_t slot) {

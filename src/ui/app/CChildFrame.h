@@ -52,6 +52,7 @@ class CChildFrame : public QMdiSubWindow {
   void OnAutoReturn();
   // F4: the Data 1 page evaluates its f(x); the graph follows when it is done.
   void OnEvaluateExpression1();
+  void OnPrintGraph();
 
  public slots:
   // Redraws the graph when it is shown.

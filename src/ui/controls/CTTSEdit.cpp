@@ -23,7 +23,7 @@ QString CTTSEdit::spokenText() const {
     const int digits = std::clamp(voiced::spokenDecimals(), 0, 99);
     body = QString::fromStdString(FPRounder::round(body.toStdString(), static_cast<std::uint16_t>(digits)));
   }
-  return voiced::expandSymbols(m_spokenLabel + body);
+  return m_mathSymbols ? voiced::expandSymbols(m_spokenLabel + body) : m_spokenLabel + body;
 }
 
 void CTTSEdit::Speak(SpeechKind kind) {
@@ -49,13 +49,14 @@ void CTTSEdit::keyPressEvent(QKeyEvent* event) {
       const int step = event->key() == Qt::Key_Left ? -1 : 1;
       const int target = std::max(cursorPosition() + step, 0);
       if (target < current.size())
-        voiced::say(this, SpeechKind::Echo, voiced::expandSymbols(current.mid(target, 1)));
+        voiced::say(this, SpeechKind::Echo,
+                    m_mathSymbols ? voiced::expandSymbols(current.mid(target, 1)) : current.mid(target, 1));
       break;
     }
     default: {
       const QString typed = event->text();
       if (!typed.isEmpty() && typed.at(0).isPrint())
-        voiced::say(this, SpeechKind::Echo, voiced::expandSymbols(typed));
+        voiced::say(this, SpeechKind::Echo, m_mathSymbols ? voiced::expandSymbols(typed) : typed);
       break;
     }
   }

@@ -19,6 +19,9 @@ class CTTSEdit : public QLineEdit {
   // Speak the text with its decimals rounded to the setting numDec.
   void setRoundNumber(bool on) { m_roundNumber = on; }
   bool roundNumber() const { return m_roundNumber; }
+  // Symbols read as maths ("/" is "divide"); off for a text that is no expression,
+  // such as a file name, which the voice reads as it is written.
+  void setMathSymbols(bool on) { m_mathSymbols = on; }
 
   // The label followed directly by the text (rounded when asked), symbols as words.
   QString spokenText() const;
@@ -32,6 +35,7 @@ class CTTSEdit : public QLineEdit {
  private:
   QString m_spokenLabel;
   bool m_roundNumber = false;
+  bool m_mathSymbols = true;
 };
 
 }  // namespace sonalyx::ui

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/pages/PlotPageForm.h"
+#include "core/pages/PrintSetupForm.h"
 #include "core/pages/SpeechPageForm.h"
 #include "core/pages/WavePageForm.h"
 #include "core/settings/RecordingBackend.h"
@@ -205,6 +206,45 @@ TEST(SettingsPageForms, SpeechPageRefusesDecimalPlacesOutsideTheirRangeInsteadOf
     form.storeAccepted(store);
     EXPECT_EQ(store.GetNumDec(), row.stored) << row.typed;
   }
+}
+
+TEST(SettingsPageForms, PrintSetupKeepsTheGraphOnThePageAsTheOrientationTurnsIt) {
+  const FieldRefusal narrowPage{PrintSetupForm::Width,
+                                "The width must be from 1 to 8.5 inches, the page's width."};
+  const FieldRefusal widePage{PrintSetupForm::Width,
+                              "The width must be from 1 to 11 inches, the page's width."};
+  const FieldRefusal shortPage{PrintSetupForm::Height,
+                               "The height must be from 1 to 8.5 inches, the page's height."};
+  const FieldRefusal copies{PrintSetupForm::Copies, "The number of copies must be from 1 to 99."};
+  const struct {
+    const char *width, *height, *copies;
+    bool landscape;
+    std::optional<FieldRefusal> refusal;
+  } rows[] = {
+      {"6", "8", "1", false, std::nullopt}, {"8.5", "11", "99", false, std::nullopt},
+      {"9", "8", "1", false, narrowPage},   {"9", "8", "1", true, std::nullopt},
+      {"6", "9", "1", true, shortPage},     {"0.5", "8", "1", false, narrowPage},
+      {"", "8", "1", false, narrowPage},    {"6in", "8", "1", false, narrowPage},
+      {"12", "8", "1", true, widePage},     {"6", "8", "0", false, copies},
+      {"6", "8", "100", false, copies},     {"6", "8", "1.5", false, copies},
+  };
+  for (const auto& row : rows) {
+    PrintSetupForm form;
+    form.width = row.width;
+    form.height = row.height;
+    form.copies = row.copies;
+    form.landscape = row.landscape;
+    EXPECT_EQ(form.check(), row.refusal) << row.width << " x " << row.height << " " << row.copies;
+  }
+}
+
+TEST(SettingsPageForms, PrintPreviewNamesTheSizeAndTheTrueYAxisFactor) {
+  EXPECT_EQ(PrintSetupForm::sizeLine({}, 6, 8), "6.0 x 8.0 inches");
+  EXPECT_EQ(PrintSetupForm::sizeLine(marked, 4.5, 3), "<4.5 x 3.0 inches>");
+  // Labels divided by 10000 read true when multiplied by 10000; small values by 0.1.
+  EXPECT_EQ(PrintSetupForm::yAxisLine({}, 1e-4), "y-axis times 10000");
+  EXPECT_EQ(PrintSetupForm::yAxisLine({}, 1.0), "y-axis times 1");
+  EXPECT_EQ(PrintSetupForm::yAxisLine({}, 10.0), "y-axis times 0.1");
 }
 
 }  // namespace
