@@ -75,6 +75,13 @@ CCalcPage* CCalcSheet::page(int index) const {
 
 void CCalcSheet::SetActivePage(int index) {
   if (!page(index)) return;
+  // Qt hands the focus to the new page's first control before the page has read
+  // its settings, which would say a stale value ("volume 0 percent"): the focus
+  // waits on the tabs, unheard, and the page or the command places it after.
+  if (index != currentIndex() && !m_tabControl->hasFocus() && isAncestorOf(QApplication::focusWidget())) {
+    const accessible::QuietFocus quiet;
+    m_tabControl->takeFocusQuietly();
+  }
   m_programChange = true;
   setCurrentIndex(index);
   m_programChange = false;
