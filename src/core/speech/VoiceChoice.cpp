@@ -13,6 +13,14 @@ std::string asciiLower(std::string text) {
   return text;
 }
 
+// Whether `part` occurs in `name` as the start of a word: "Sam" names no voice in
+// "Assamese", which would otherwise give every new user a voice of Assam.
+bool startsAWord(const std::string& name, const std::string& part) {
+  for (auto at = name.find(part); at != std::string::npos; at = name.find(part, at + 1))
+    if (at == 0 || !std::isalpha(static_cast<unsigned char>(name[at - 1]))) return true;
+  return false;
+}
+
 }  // namespace
 
 std::optional<std::size_t> findVoice(const std::vector<std::string>& voices, const std::string& name) {
@@ -23,11 +31,10 @@ std::optional<std::size_t> findVoice(const std::vector<std::string>& voices, con
   };
   std::size_t index = indexWhere([&](const std::string& voice) { return voice == name; });
   if (index < voices.size()) return index;
-  index = indexWhere([&](const std::string& voice) { return voice.find(name) != std::string::npos; });
+  index = indexWhere([&](const std::string& voice) { return startsAWord(voice, name); });
   if (index < voices.size()) return index;
   const std::string lowerName = asciiLower(name);
-  index = indexWhere(
-      [&](const std::string& voice) { return asciiLower(voice).find(lowerName) != std::string::npos; });
+  index = indexWhere([&](const std::string& voice) { return startsAWord(asciiLower(voice), lowerName); });
   if (index < voices.size()) return index;
   return std::nullopt;
 }

@@ -75,11 +75,21 @@ CCalcPage* CCalcSheet::page(int index) const {
   return index >= 0 && index < kPageCount ? m_pages[index] : nullptr;
 }
 
-void CCalcSheet::SetActivePage(int index) {
+void CCalcSheet::SetActivePage(int index, bool placeFocus) {
   if (!page(index)) return;
+  // Qt hands the focus to the new page's first control before the page has read
+  // its settings, which would say a stale value ("volume 0 percent"): the focus
+  // waits on the tabs, unheard, and moves on once the page is ready.
+  bool waiting = false;
+  if (index != currentIndex() && !m_tabControl->hasFocus() && isAncestorOf(QApplication::focusWidget())) {
+    const accessible::QuietFocus quiet;
+    m_tabControl->takeFocusQuietly();
+    waiting = true;
+  }
   m_programChange = true;
   setCurrentIndex(index);
   m_programChange = false;
+  if (waiting && placeFocus && currentIndex() == index) m_pages[index]->CCalcPage::FocusGroup(0);
 }
 
 void CCalcSheet::StepPage(int direction) {
@@ -100,12 +110,12 @@ void CCalcSheet::ReloadCurrentPage() {
 }
 
 void CCalcSheet::FocusPlotGroup(PlotGroup group) {
-  SetActivePage(kPlot);
+  SetActivePage(kPlot, false);
   if (currentIndex() == kPlot) m_pages[kPlot]->FocusGroup(group);
 }
 
 void CCalcSheet::FocusWaveGroup(WaveGroup group) {
-  SetActivePage(kWave);
+  SetActivePage(kWave, false);
   if (currentIndex() == kWave) m_pages[kWave]->FocusGroup(group);
 }
 

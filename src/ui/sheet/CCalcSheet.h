@@ -36,7 +36,10 @@ class CCalcSheet : public QTabWidget {
   CTTSTabCtrl* tabControl() const { return m_tabControl; }
 
   // Brings a page to the front without speaking (the program's own change).
-  void SetActivePage(int index);
+  // Shows page `index`. When the focus was in the page left, it moves to the new
+  // page's first control once the page has read its settings, unless the caller
+  // places it itself (`placeFocus` false).
+  void SetActivePage(int index, bool placeFocus = true);
   // The user's move to the next (1) or previous (-1) tab, round the ends, as
   // Ctrl+Tab and Ctrl+Shift+Tab do; it is announced, and the focus ends on the tab.
   void StepPage(int direction);

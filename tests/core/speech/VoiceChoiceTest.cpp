@@ -22,6 +22,9 @@ TEST(VoiceChoice, PrefersTheExactNameThenTheFirstContainingItThenTheDefault) {
   };
   for (const auto& c : cases) EXPECT_EQ(chooseVoice(voices, c.name, 2), c.expected) << '"' << c.name << '"';
   EXPECT_EQ(chooseVoice({}, "Sam", 0), 0U);
+  // A name matches at a word's start, not inside "Assamese".
+  EXPECT_EQ(chooseVoice({"Assamese", "English"}, "Sam", 1), 1U);
+  EXPECT_EQ(chooseVoice({"Assamese", "English"}, "sam", 1), 1U);
 }
 
 }  // namespace

@@ -107,6 +107,26 @@ TEST(WavePage, EveryControlStoresItsSettingAsItChanges) {
     EXPECT_TRUE(captions.contains(caption)) << caption;
 }
 
+// Reached by the menu from inside another page, a control says the stored value,
+// never the one it held before the page read its settings.
+TEST(WavePage, TheMenuBringsTheFocusToAControlThatSaysTheStoredValue) {
+  test::ProgramUnderTest program{[](const SettingsStore& store) {
+    store.SetTtsOn(true);
+    store.SetWaveVolume(42);
+  }};
+  ASSERT_TRUE(program.started());
+  CCalcSheet* sheet = program.child()->sheet();
+  QWidget* key = sheet->page(CCalcSheet::kCalculator)->findChildren<QAbstractButton*>().front();
+  key->setFocus(Qt::TabFocusReason);
+  test::Heard heard;
+  program.commands().action(cmd::kWaveVolume)->trigger();
+  QApplication::processEvents();
+  const auto said = heard.take();
+  ASSERT_FALSE(said.empty());
+  EXPECT_EQ(said.back(), "Data set volume: 42 percent.");
+  for (const std::string& text : said) EXPECT_EQ(text.find(" 0 percent"), std::string::npos) << text;
+}
+
 // With Tick Marks off the tick controls are off and their entry is never refused;
 // with them on, a count outside 5 to 15 keeps the page and says the range.
 TEST(WavePage, RefusesATickCountOutsideItsRangeAndAThresholdThatIsNoNumber) {
