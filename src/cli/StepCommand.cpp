@@ -4,6 +4,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "cli/DataSetArgument.h"
 #include "core/graph/GraphScaling.h"
 #include "core/graph/GraphTicks.h"
@@ -71,7 +72,7 @@ int runStepCommand(const Arguments& args, std::ostream& out) {
   std::array<DataSet, 4> slots = slotsFrom(args, next);
   if (next == args.size()) throw CliError::usage("step needs at least one key: " + keyList());
   const SettingsStore store = SettingsStore::openDefault();
-  GraphPlayback playback(slots, store);
+  GraphPlayback playback(slots, store, cliTranslator());
   std::int32_t cursor = -1;
   for (; next < args.size(); ++next) {
     const auto key = keyNames().find(args[next]);

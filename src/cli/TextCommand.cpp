@@ -4,6 +4,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/settings/SettingsStore.h"
 #include "core/speech/CalculatorKeyTable.h"
 #include "core/speech/CoordinatePhrase.h"
@@ -19,7 +20,7 @@ namespace {
 // Spoken with the user's precision, read at the moment of use like every setting.
 std::string coordinatePhraseFromSettings(double x, double y) {
   const std::uint32_t numDec = SettingsStore::openDefault().GetNumDec();
-  return coordinatePhrase(x, y, static_cast<int>(std::min<std::uint32_t>(numDec, 1000)));
+  return coordinatePhrase(x, y, static_cast<int>(std::min<std::uint32_t>(numDec, 1000)), cliTranslator());
 }
 
 // A whole number of decimal digits only, no sign, no blanks.
@@ -54,7 +55,7 @@ int runTextCommand(const Arguments& args, std::ostream& out) {
 
   if (action == "expand") {
     expectArguments(args, 2, 2, "expand TEXT");
-    SymbolExpander expander;
+    SymbolExpander expander(expressionSymbolTable(), cliTranslator());
     expander.BuildSymbolMap();
     std::string text = args[1];
     expander.ExpandSymbols(text);
@@ -76,7 +77,7 @@ int runTextCommand(const Arguments& args, std::ostream& out) {
     long long id = 0;
     if (!readWholeNumber(args[1], 0x7FFFFFFF, id))
       throw CliError::usage("ID must be a whole number, not '" + args[1] + "'");
-    const CalculatorKeyTable keys;
+    const CalculatorKeyTable keys(cliTranslator());
     const CalculatorKey* key = keys.find(static_cast<int>(id));
     if (key == nullptr) throw CliError::user("no calculator key has the id " + args[1]);
     out << key->spokenText() << '\n';
