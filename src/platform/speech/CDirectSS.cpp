@@ -36,6 +36,7 @@ CDirectSS& CDirectSS::instance() {
 bool CDirectSS::Create(std::unique_ptr<SpeechEngine> engine) {
   if (!engine) return false;
   m_engine = std::move(engine);
+  m_engine->useLanguage(m_language);
   ApplySettings();
   return true;
 }
@@ -97,11 +98,20 @@ void CDirectSS::Silence() {
   if (m_screenReader) m_screenReader->cancel();
 }
 
+void CDirectSS::setLanguage(const std::string& language, Translator translate) {
+  m_language = language;
+  m_translate = std::move(translate);
+  if (!m_engine) return;
+  m_engine->useLanguage(m_language);
+  SelectVoice(m_settings.GetVoice());
+}
+
 bool CDirectSS::SelectVoice(const std::string& name) {
   if (!m_engine) return false;
   const std::vector<std::string> voices = m_engine->voices();
   if (voices.empty()) return false;
-  m_engine->selectVoice(chooseVoice(voices, name, m_engine->defaultVoice()));
+  m_engine->selectVoice(
+      chooseVoiceForLanguage(voices, m_engine->voiceLanguages(), name, m_language, m_engine->defaultVoice()));
   return true;
 }
 

@@ -77,6 +77,10 @@ bool CGraphCalcApp::InitInstance() {
   // The one voice, made once per process; its switch follows this run's settings.
   CDirectSS& voice = voice::device();
   voice.setSettings(m_settings);
+  // The voice speaks the program's language; the translator reaches whichever
+  // application object is current, as the voice outlives this one.
+  voice.setLanguage(std::string(languageCode(m_dictionary->language())),
+                    [](const std::string& english) { return Translate(english); });
   if (!voice.engine()) {
     registerSystemSpeechEngine();
     voice.Create(OutputSequencer::instance());
