@@ -268,7 +268,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/core/math/FitText.cpp" line="18"/>
+        <location filename="../src/core/math/FitText.cpp" line="19"/>
         <location filename="../src/ui/pages/plot/CPlotPage.cpp" line="37"/>
         <source>Number of points:</source>
         <translation type="unfinished"></translation>
@@ -553,27 +553,27 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/core/pages/PrintSetupForm.cpp" line="58"/>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="59"/>
         <source>The width must be from %s to %s inches, the page&apos;s width.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/core/pages/PrintSetupForm.cpp" line="63"/>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="64"/>
         <source>The height must be from %s to %s inches, the page&apos;s height.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/core/pages/PrintSetupForm.cpp" line="69"/>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="70"/>
         <source>The number of copies must be from %d to %d.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/core/pages/PrintSetupForm.cpp" line="75"/>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="76"/>
         <source>%.1f x %.1f inches</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/core/pages/PrintSetupForm.cpp" line="82"/>
+        <location filename="../src/core/pages/PrintSetupForm.cpp" line="83"/>
         <location filename="../src/ui/graph/CPlotWnd.cpp" line="60"/>
         <source>y-axis times %s</source>
         <translation type="unfinished"></translation>
@@ -815,6 +815,18 @@
         <location filename="../src/core/speech/CoordinatePhrase.cpp" line="52"/>
         <location filename="../src/core/speech/SymbolExpander.cpp" line="67"/>
         <source>times ten to the</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/core/speech/CoordinatePhrase.cpp" line="58"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="186"/>
+        <location filename="../src/ui/pages/CSettingsPage.cpp" line="41"/>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/core/speech/CoordinatePhrase.cpp" line="59"/>
+        <source>Infinity</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1760,294 +1772,288 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="83"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="85"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="84"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="86"/>
         <source>Printer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="85"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="93"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="86"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="94"/>
         <source>Printer:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="87"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="88"/>
         <source>No printer installed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="88"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="89"/>
         <source>With no printer, Print saves the graph as a PDF file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="94"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="95"/>
         <source>Print to file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="95"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="96"/>
         <source>Saves the page as a PDF file instead of printing it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="98"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="102"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="99"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="103"/>
         <source>File name:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="98"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="99"/>
         <source>File name</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="99"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="100"/>
         <source>The PDF file the page is saved in.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="103"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="114"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="104"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="115"/>
         <source>Font:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="103"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="104"/>
         <source>Font</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="107"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="112"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="108"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="113"/>
         <source>Font size:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="107"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="108"/>
         <source>Font size</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="116"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="117"/>
         <source>Size</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="118"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="130"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="119"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="131"/>
         <source>Width:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="118"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="119"/>
         <source>Width</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="119"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="120"/>
         <source>The graph&apos;s width on paper, in inches.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="121"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="131"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="122"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="132"/>
         <source>Height:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="121"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="122"/>
         <source>Height</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="122"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="123"/>
         <source>The graph&apos;s height on paper, in inches.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="124"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="125"/>
         <source>Portrait</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="125"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="126"/>
         <source>Landscape</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="133"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="135"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="134"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="136"/>
         <source>Paper size:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="133"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="134"/>
         <source>Paper size</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="136"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="138"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="137"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="139"/>
         <source>Number of copies:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="136"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="137"/>
         <source>Number of copies</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="139"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="142"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="140"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="143"/>
         <source>Title:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="139"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="140"/>
         <source>Title</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="140"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="141"/>
         <source>Printed above the graph.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="144"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="145"/>
         <source>Data Style</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="146"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="147"/>
         <source>Draw Data Points</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="146"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="147"/>
         <source>Draw line through points</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="147"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="148"/>
         <source>Draw both line and data points</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="155"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="156"/>
         <location filename="../src/ui/pages/plot/CPlotPage.cpp" line="122"/>
         <source>Axes</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="157"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="158"/>
         <source>Show X-Axis</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="158"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="159"/>
         <source>Show Y-Axis</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="163"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="164"/>
         <source>Axis Labels</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="165"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="166"/>
         <source>X Labels</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="166"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="167"/>
         <source>Y Labels</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="171"/>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="173"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="172"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="174"/>
         <location filename="../src/ui/pages/wave/CWavePage.cpp" line="58"/>
         <source>Tick Marks</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="173"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="174"/>
         <source>No Tick Marks</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="173"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="174"/>
         <source>Grid Lines</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="181"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="182"/>
         <source>Preview</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="185"/>
-        <location filename="../src/ui/pages/CSettingsPage.cpp" line="41"/>
-        <source>Error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="189"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="190"/>
         <source>Print</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="190"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="191"/>
         <location filename="../src/ui/pages/speech/CLexiconDlg.cpp" line="79"/>
         <location filename="../src/ui/pages/speech/CSpeechEngineDlg.cpp" line="45"/>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="239"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="240"/>
         <source>No printer is installed: the graph can only be saved as a PDF file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="379"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="380"/>
         <source>Type the name of the PDF file to save the graph in.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="399"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="400"/>
         <source>The graph could not be printed on %s.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="402"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="403"/>
         <source>The graph is printed on %s.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="403"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="404"/>
         <source>The graph is saved in %s.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="425"/>
+        <location filename="../src/ui/dialogs/CSLXPrintDlg.cpp" line="426"/>
         <source>No printer is installed: Print saves the graph as a PDF file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/graph/CGraphPlayer.cpp" line="73"/>
+        <location filename="../src/ui/graph/CGraphPlayer.cpp" line="74"/>
         <source>Write Wave File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/graph/CGraphPlayer.cpp" line="84"/>
+        <location filename="../src/ui/graph/CGraphPlayer.cpp" line="94"/>
         <source>Wave file written: %s.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../src/ui/graph/CGraphWnd.cpp" line="32"/>
-        <location filename="../src/ui/graph/CGraphWnd.cpp" line="82"/>
+        <location filename="../src/ui/graph/CGraphWnd.cpp" line="84"/>
         <location filename="../src/ui/graph/CPlotWnd.cpp" line="26"/>
         <source>Graph</source>
         <translation type="unfinished"></translation>

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/speech/TranslationMarker.h"
+#include "core/speech/Translator.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
@@ -19,11 +20,11 @@ std::string FitText::countLine(std::size_t count) const {
 }
 
 std::string FitText::valueLine(const std::string& label, double value) const {
-  return translate(label) + ' ' + formatNumber(zeroed(value), "%.10g");
+  return translate(label) + ' ' + numberForPerson(formatNumber(zeroed(value), "%.10g"), m_translate);
 }
 
-std::string FitText::coefficientLine(char letter, double value) {
-  return std::string(1, letter) + ": " + formatNumber(zeroed(value), "%.10g");
+std::string FitText::coefficientLine(char letter, double value) const {
+  return std::string(1, letter) + ": " + numberForPerson(formatNumber(zeroed(value), "%.10g"), m_translate);
 }
 
 double FitText::zeroed(double value) {

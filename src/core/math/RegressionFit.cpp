@@ -42,7 +42,7 @@ class FitRun {
   void message(const std::string& english) { m_result.lines.push_back(m_text.translate(english)); }
 
   void coefficient(char letter, double value) {
-    m_result.lines.push_back(FitText::coefficientLine(letter, value));
+    m_result.lines.push_back(m_text.coefficientLine(letter, value));
     m_result.coefficients.push_back(FitText::zeroed(value));
   }
 
@@ -78,7 +78,7 @@ class FitRun {
       // Every y alike: the line is flat and a correlation means nothing.
       m_result.lines.push_back("r: " + m_text.translate(SLX_TR("undefined")));
     } else {
-      m_result.lines.push_back(FitText::coefficientLine('r', line.r));
+      m_result.lines.push_back(m_text.coefficientLine('r', line.r));
     }
     coefficient('a', a);
     coefficient('b', b);

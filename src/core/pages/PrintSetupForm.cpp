@@ -21,6 +21,7 @@ void replaceFirst(std::string& text, const std::string& marker, const std::strin
   if (const auto at = text.find(marker); at != std::string::npos) text.replace(at, marker.size(), value);
 }
 
+// A refusal names the limits as they are typed into the field, with the point.
 std::string inchesRange(const Translator& translate, const std::string& english, double most) {
   std::string text = translateWith(translate, english);
   replaceFirst(text, "%s", formatNumber(PrintSetupForm::kSmallestInches, "%.15g"));
@@ -73,14 +74,14 @@ std::optional<FieldRefusal> PrintSetupForm::check(const Translator& translate) c
 
 std::string PrintSetupForm::sizeLine(const Translator& translate, double widthInches, double heightInches) {
   std::string text = translateWith(translate, SLX_TR("%.1f x %.1f inches"));
-  replaceFirst(text, "%.1f", formatNumber(widthInches, "%.1f"));
-  replaceFirst(text, "%.1f", formatNumber(heightInches, "%.1f"));
+  replaceFirst(text, "%.1f", numberForPerson(formatNumber(widthInches, "%.1f"), translate));
+  replaceFirst(text, "%.1f", numberForPerson(formatNumber(heightInches, "%.1f"), translate));
   return text;
 }
 
 std::string PrintSetupForm::yAxisLine(const Translator& translate, double labelFactor) {
   std::string text = translateWith(translate, SLX_TR("y-axis times %s"));
-  replaceFirst(text, "%s", formatNumber(yAxisMultiplier(labelFactor), "%.15g"));
+  replaceFirst(text, "%s", numberForPerson(formatNumber(yAxisMultiplier(labelFactor), "%.15g"), translate));
   return text;
 }
 

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "core/speech/LanguageTable.h"
+
 namespace sonalyx {
 
 namespace {
@@ -107,7 +109,8 @@ std::optional<Element> findElement(std::string_view message, std::string_view na
 
 Catalogue Catalogue::fromTsText(std::string_view tsText) {
   Catalogue catalogue;
-  if (tsText.find("<TS") == std::string_view::npos) return catalogue;
+  const std::size_t head = tsText.find("<TS");
+  if (head == std::string_view::npos) return catalogue;
   constexpr std::string_view kOpen = "<message";
   constexpr std::string_view kClose = "</message>";
   std::size_t at = 0;
@@ -130,6 +133,12 @@ Catalogue Catalogue::fromTsText(std::string_view tsText) {
     if (translated->empty()) continue;
     catalogue.m_translations.insert_or_assign(std::move(*english), std::move(*translated));
   }
+  // The file's language ("fr_FR") gives the decimal sign.
+  const std::string_view attribute = " language=\"";
+  const std::size_t named = tsText.find(attribute, head);
+  if (named != std::string_view::npos && named + attribute.size() + 2 <= tsText.size())
+    catalogue.m_translations[kDecimalSignKey] =
+        std::string(decimalSign(languageForCode(tsText.substr(named + attribute.size(), 2))));
   return catalogue;
 }
 

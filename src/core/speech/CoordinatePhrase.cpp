@@ -55,7 +55,8 @@ std::string powerOfTenWords(const std::string& mantissa, int exponent, const Tra
 }
 
 std::string spokenValue(double value, int numDec, const Translator& translate) {
-  if (std::isnan(value) || std::isinf(value)) return formatNumber(value, "%g");
+  if (std::isnan(value)) return translateWith(translate, SLX_TR("Error"));
+  if (std::isinf(value)) return (value < 0 ? "-" : "") + translateWith(translate, SLX_TR("Infinity"));
   if (value == 0.0) return "0";
   const int decimals = std::clamp(numDec, 0, kMostSpokenDecimals);
   const double magnitude = std::fabs(value);
@@ -69,7 +70,7 @@ std::string spokenValue(double value, int numDec, const Translator& translate) {
       mantissa.resize(mantissa.size() - 1);
       ++exponent;
     }
-    return powerOfTenWords(mantissa, exponent, translate);
+    return powerOfTenWords(numberForPerson(mantissa, translate), exponent, translate);
   }
   const std::string text = shortest(value, std::chars_format::fixed);
   std::string spoken = roundedText(text, decimals);
@@ -78,7 +79,7 @@ std::string spokenValue(double value, int numDec, const Translator& translate) {
     const int leadingZeros = -static_cast<int>(std::floor(std::log10(magnitude))) - 1;
     spoken = roundedText(text, leadingZeros + std::max(decimals, 1));
   }
-  return spoken;
+  return numberForPerson(spoken, translate);
 }
 
 std::string pointPhrase(const DataPoint& point, std::uint32_t plotType, int numDec,

@@ -66,12 +66,14 @@ void SymbolExpander::BuildSymbolMap() {
   }
   m_timesTenTo = ' ' + translateWith(m_translator, SLX_TR("times ten to the")) + ' ';
   m_minus = translateWith(m_translator, SLX_TR("minus")) + ' ';
+  m_decimalSign = decimalSignOf(m_translator);
 }
 
 void SymbolExpander::ExpandSymbols(std::string& text) const {
   std::string expanded;
   expanded.reserve(text.size() * 2);
   std::size_t i = 0;
+  int matrixDepth = 0;
   while (i < text.size()) {
     if (const std::size_t exponent = m_symbolMap.empty() ? 0 : exponentLength(text, i); exponent > 0) {
       // 1.5e-007 is "1.5 times ten to the minus 7", not "1.5e minus 007".
@@ -82,6 +84,18 @@ void SymbolExpander::ExpandSymbols(std::string& text) const {
       while (digits + 1 < i + exponent && text[digits] == '0') ++digits;
       expanded.append(text, digits, i + exponent - digits);
       i += exponent;
+      continue;
+    }
+    // A number is heard with the language's decimal sign, which the voice reads as
+    // such: a point between digits becomes it, and where it is the comma, a comma
+    // between digits outside a matrix's brackets is one (a shown result, "0,5").
+    if (text[i] == '[') ++matrixDepth;
+    if (text[i] == ']' && matrixDepth > 0) --matrixDepth;
+    const bool betweenDigits = i > 0 && isDigit(text[i - 1]) && i + 1 < text.size() && isDigit(text[i + 1]);
+    if (betweenDigits && m_decimalSign == "," && !m_symbolMap.empty() &&
+        (text[i] == '.' || (text[i] == ',' && matrixDepth == 0))) {
+      expanded += m_decimalSign;
+      ++i;
       continue;
     }
     const std::size_t length = characterLength(text, i);

@@ -5,6 +5,9 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
+
+#include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
 
@@ -15,6 +18,27 @@ using Translator = std::function<std::string(const std::string&)>;
 // An empty translator leaves the text in English.
 inline std::string translateWith(const Translator& translator, const std::string& text) {
   return translator ? translator(text) : text;
+}
+
+// The key a translator answers with its language's decimal sign ("." or ","). No
+// language file holds it: the dictionary and the catalogue answer it from
+// decimalSign(Language), so every phrase builder that is given a translator
+// writes numbers as the user's language does.
+inline constexpr const char* kDecimalSignKey =
+    "\x1f"
+    "decimal sign";
+
+// The decimal sign of a translator's language; "." for an empty translator or any
+// answer but a comma (a translator that does not know the key, or marks every text).
+inline std::string decimalSignOf(const Translator& translator) {
+  return translator && translator(kDecimalSignKey) == "," ? "," : ".";
+}
+
+// A number written for a person ("1.5", "-2.5e-007"): its decimal point becomes
+// the language's sign. Only what is shown or said goes through here; what the
+// user types and every file keep the point.
+inline std::string numberForPerson(std::string number, const Translator& translator) {
+  return withDecimalSign(std::move(number), decimalSignOf(translator));
 }
 
 // Puts the first argument where "%1" stands, the second for "%2", up to "%9", in

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "core/speech/LanguageTable.h"
+#include "core/speech/Translator.h"
 #include "platform/qt/speech/DesktopScreenReader.h"
 #include "platform/qt/speech/SystemSpeechEngine.h"
 #include "platform/sound/OutputSequencer.h"
@@ -177,6 +178,10 @@ QString Translate(const char* english) {
 std::string Translate(const std::string& english) {
   const CGraphCalcApp* app = CGraphCalcApp::instance();
   return app ? app->dictionary().Translate(english) : english;
+}
+
+std::string DecimalSign() {
+  return decimalSignOf([](const std::string& english) { return Translate(english); });
 }
 
 }  // namespace sonalyx::ui

@@ -79,6 +79,7 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   setAccessibleName(windowTitle());
   PrintSetupState& kept = m_app.printState();
   m_style = graphStyleFromSettings(m_app.settings());
+  m_style.decimalSign = DecimalSign();
 
   auto* output = group(this, SLX_TR("Printer"));
   auto* outputLayout = new QFormLayout(output);

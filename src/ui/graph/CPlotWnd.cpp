@@ -16,7 +16,7 @@ namespace sonalyx::ui {
 namespace {
 
 QString number(double value, const char* conversion) {
-  return QString::fromStdString(formatNumber(value, conversion));
+  return QString::fromStdString(withDecimalSign(formatNumber(value, conversion), DecimalSign()));
 }
 
 }  // namespace
