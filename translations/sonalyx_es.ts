@@ -903,6 +903,21 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <location filename="../src/platform/speech/CDirectSS.cpp" line="18"/>
+        <source>%1 (%2 to %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/platform/speech/CDirectSS.cpp" line="166"/>
+        <source>Voice %1, rate %2, pitch %3, volume %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/platform/speech/CDirectSS.cpp" line="176"/>
+        <source>%1 pronounces words by the rules of voice %2; it has no user lexicon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <location filename="../src/platform/speech/SelfVoicing.cpp" line="10"/>
         <source>Self-voicing activated.</source>
         <translation type="unfinished"></translation>
