@@ -142,6 +142,13 @@ MatrixValue power(const MatrixValue& base, const MatrixValue& exponent) {
   MatrixXd result = MatrixXd::Identity(base.matrix.rows(), base.matrix.cols());
   // Squaring: ^1000000 takes 40 products, not a million.
   std::uint64_t remaining = n < 0 ? static_cast<std::uint64_t>(-n) : static_cast<std::uint64_t>(n);
+  int products = 0;
+  for (std::uint64_t bits = remaining; bits != 0; bits >>= 1U) products += (bits & 1U) != 0 ? 2 : 1;
+  const double order = static_cast<double>(base.matrix.rows());
+  if (order * order * order * products > limits::kMostMatrixPowerWork) {
+    fail("a power of a " + sizeText(base) + " matrix to " + std::to_string(n) + " needs more than the " +
+         formatNumber(limits::kMostMatrixPowerWork, "%.0f") + " multiplications allowed");
+  }
   while (remaining != 0) {
     if ((remaining & 1U) != 0) result = product(result, factor);
     remaining >>= 1U;

@@ -22,6 +22,10 @@ inline constexpr std::uint32_t kLongestPlayTime = 600;
 // Elements of one matrix (a 1000 x 1000 matrix is 8 MB and inverts in about a second).
 inline constexpr std::size_t kMostMatrixElements = 1'000'000;
 
+// Multiplications of one matrix power, counted as n^3 for each product of two n x n
+// matrices: about a second of work, where eye(985)^1585 would take a minute.
+inline constexpr double kMostMatrixPowerWork = 4e9;
+
 // Characters of one expression or f(x): far beyond anything typed, well below what
 // its compiled code could make a burden.
 inline constexpr std::size_t kMostExpressionLength = 100'000;

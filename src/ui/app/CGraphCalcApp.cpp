@@ -86,9 +86,10 @@ bool CGraphCalcApp::InitInstance() {
     registerSystemSpeechEngine();
     voice.Create(OutputSequencer::instance());
   }
+  // A first start speaks at once; whether it keeps speaking is decided when the
+  // screen reader's status has arrived (announceFirstStart).
   const bool firstStart = isFirstStart(m_settings);
-  if (firstStart) m_settings.SetTtsOn(true);
-  voice.setEnabled(m_settings.GetTtsOn());
+  voice.setEnabled(firstStart || m_settings.GetTtsOn());
   // Watched from the start, so that the first words already know whether a screen
   // reader runs.
   if (!voice.screenReader()) {
@@ -112,20 +113,35 @@ bool CGraphCalcApp::InitInstance() {
   return true;
 }
 
+namespace {
+// How long the desktop may take to say whether a screen reader runs.
+constexpr int kScreenReaderAnswerMs = 250;
+}  // namespace
+
 void CGraphCalcApp::announceFirstStart() {
   // After the window has the focus and has said where it is: said earlier, the
   // sentence would be cut off by that echo. A window that never gets the focus
-  // (no window manager) still hears it after a moment.
+  // (no window manager) still hears it after a moment. The short wait lets the
+  // desktop's answer about a screen reader arrive first.
   auto* pending = new QObject(this);
-  const auto say = [pending] {
+  const auto decide = [this, pending] {
     if (pending->property("said").toBool()) return;
     pending->setProperty("said", true);
-    voice::Speak(SpeechKind::Content, Translate(kFirstStartSentence));
     pending->deleteLater();
+    const ScreenReader* reader = voice::device().screenReader();
+    if (reader && reader->running()) {
+      // The user hears the program through the screen reader already: self-voicing
+      // stays off until asked for (Ctrl+Q, then in the reader's own queue), and a
+      // later start without a screen reader is still a first start.
+      voice::SetEnabled(false);
+      return;
+    }
+    m_settings.SetTtsOn(true);
+    voice::Speak(SpeechKind::Content, Translate(kFirstStartSentence));
   };
   connect(qApp, &QApplication::focusChanged, pending,
-          [pending, say] { QTimer::singleShot(0, pending, say); });
-  QTimer::singleShot(1500, pending, say);
+          [pending, decide] { QTimer::singleShot(kScreenReaderAnswerMs, pending, decide); });
+  QTimer::singleShot(1500, pending, decide);
 }
 
 int CGraphCalcApp::ExitInstance() {

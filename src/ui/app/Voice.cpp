@@ -1,5 +1,6 @@
 #include "ui/app/Voice.h"
 
+#include "core/speech/SignWords.h"
 #include "platform/speech/CDirectSS.h"
 #include "platform/speech/SelfVoicing.h"
 #include "ui/app/CGraphCalcApp.h"
@@ -11,7 +12,7 @@ CDirectSS& device() {
 }
 
 void Speak(SpeechKind kind, const QString& text) {
-  device().Speak(kind, text.toStdString());
+  device().Speak(kind, spellNegativeSigns(text.toStdString(), Translate("minus").toStdString()));
 }
 
 void Stop() {

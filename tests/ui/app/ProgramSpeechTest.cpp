@@ -23,15 +23,25 @@ void speakOn(const SettingsStore& store) {
 }
 
 TEST(ProgramSpeech, AnnouncesItsTabAtStartOnlyWhenSelfVoicingIsOn) {
+  auto* reader = dynamic_cast<test::CaptureScreenReader*>(CDirectSS::instance().screenReader());
+  ASSERT_NE(reader, nullptr);
   const struct {
     std::optional<bool> ttsOn;  // nothing: never stored, the first start
+    bool screenReader;
     Heard expected;
+    std::optional<bool> stored;  // nothing: still never stored
   } cases[] = {
-      {true, {"Calculator screen."}},
-      {false, {}},
-      {std::nullopt, {"Calculator screen.", "Self-voicing is on; Control+Q switches it off and on again."}},
+      {true, false, {"Calculator screen."}, true},
+      {false, false, {}, false},
+      {std::nullopt,
+       false,
+       {"Calculator screen.", "Self-voicing is on; Control+Q switches it off and on again."},
+       true},
+      // Beside a screen reader the first start stays quiet and stores nothing.
+      {std::nullopt, true, {}, std::nullopt},
   };
   for (const auto& c : cases) {
+    reader->setRunning(c.screenReader);
     test::Heard heard;
     ProgramUnderTest program([&](const SettingsStore& store) {
       if (c.ttsOn) {
@@ -41,10 +51,16 @@ TEST(ProgramSpeech, AnnouncesItsTabAtStartOnlyWhenSelfVoicingIsOn) {
       }
     });
     ASSERT_TRUE(program.started());
+    QTest::qWait(400);  // the first start decides once the screen reader's status is in
     EXPECT_EQ(heard.take(), c.expected) << c.ttsOn.value_or(-1);
+    EXPECT_TRUE(reader->take().empty());
     // The first start's choice is kept: the next start follows the stored switch.
-    EXPECT_EQ(program.settings().GetTtsOn(), c.ttsOn.value_or(true));
+    const auto stored = program.settings().backend().readValue("ttsOn");
+    EXPECT_EQ(stored.has_value(), c.stored.has_value());
+    EXPECT_EQ(program.settings().GetTtsOn(), c.stored.value_or(false));
+    EXPECT_EQ(CDirectSS::instance().enabled(), c.stored.value_or(false));
   }
+  reader->setRunning(false);
 }
 
 TEST(ProgramSpeech, SaysWhatTheKeyboardDoesInOrder) {

@@ -220,7 +220,7 @@ def main():
               now.name if now is not None else "no focus event")
         with open(speech, encoding="utf-8") as log:
             said = [line.strip() for line in log.readlines()[before:]]
-        check("the program says the row", any(line.startswith("Row 2: x = -9.96, f(x) = 95.2016") for line in said),
+        check("the program says the row", any(line.startswith("Row 2: x = minus 9.96, f(x) = 95.2016") for line in said),
               str(said))
         check("the program is still running", app.poll() is None, "exit %s" % app.returncode)
         return 1 if FAILURES else 0

@@ -108,11 +108,11 @@ TEST(DataPage, ByKeyboardFromExpressionToFittedCurve) {
        "Data set 1 is ready: 501 points.", 501},
       {"past the coordinates", [&] { program.press(Qt::Key_Tab); }, "Rectangle Checked.", 501},
       {"into the table", [&] { program.press(Qt::Key_Tab); },
-       "Data set 1 table. Row 1: x = -10, f(x) = 96, d(f(x))/dx = -20, \xE2\x88\xAB"
+       "Data set 1 table. Row 1: x = minus 10, f(x) = 96, d(f(x))/dx = minus 20, \xE2\x88\xAB"
        "f(x)dx = 0, Trend 0",
        501},
       {"the next row", [&] { program.press(Qt::Key_Down); },
-       "Row 2: x = -9.96, f(x) = 95.2016, d(f(x))/dx = -19.92, \xE2\x88\xAB"
+       "Row 2: x = minus 9.96, f(x) = 95.2016, d(f(x))/dx = minus 19.92, \xE2\x88\xAB"
        "f(x)dx = 3.82402, Trend +",
        501},
       {"the next cell", [&] { program.press(Qt::Key_Right); }, "f(x) = 95.2016", 501},
@@ -121,7 +121,7 @@ TEST(DataPage, ByKeyboardFromExpressionToFittedCurve) {
          type("pi");
          program.press(Qt::Key_Return);
        },
-       "Row 2: x = -9.96, f(x) = 3.14159, d(f(x))/dx = -19.92, \xE2\x88\xAB"
+       "Row 2: x = minus 9.96, f(x) = 3.14159, d(f(x))/dx = minus 19.92, \xE2\x88\xAB"
        "f(x)dx = 3.82402, Trend +",
        501},
       {"a typed value that is no number",
@@ -138,7 +138,7 @@ TEST(DataPage, ByKeyboardFromExpressionToFittedCurve) {
          type("(-9.96)^2-4");
          program.press(Qt::Key_Return);
        },
-       "Row 2: x = -9.96, f(x) = 95.2016, d(f(x))/dx = -19.92, \xE2\x88\xAB"
+       "Row 2: x = minus 9.96, f(x) = 95.2016, d(f(x))/dx = minus 19.92, \xE2\x88\xAB"
        "f(x)dx = 3.82402, Trend +",
        501},
       {"Esc gives up an edit",
@@ -146,7 +146,7 @@ TEST(DataPage, ByKeyboardFromExpressionToFittedCurve) {
          type("7");
          program.press(Qt::Key_Escape);
        },
-       "Row 2: x = -9.96, f(x) = 95.2016, d(f(x))/dx = -19.92, \xE2\x88\xAB"
+       "Row 2: x = minus 9.96, f(x) = 95.2016, d(f(x))/dx = minus 19.92, \xE2\x88\xAB"
        "f(x)dx = 3.82402, Trend +",
        501},
       {"to the statistics", [&] { program.press(Qt::Key_Tab); }, "Evaluate Statistics", 501},
