@@ -4,6 +4,16 @@
 <context>
     <name>Sonalyx</name>
     <message>
+        <location filename="../src/cli/StepCommand.cpp" line="101"/>
+        <location filename="../src/cli/TextCommand.cpp" line="101"/>
+        <location filename="../src/core/speech/CalculatorKeyTable.cpp" line="74"/>
+        <location filename="../src/core/speech/CoordinatePhrase.cpp" line="53"/>
+        <location filename="../src/core/speech/SymbolExpander.cpp" line="68"/>
+        <location filename="../src/ui/app/Voice.cpp" line="15"/>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
         <location filename="../src/core/engines/CCalcEngine.cpp" line="20"/>
         <source>Cannot divide by zero</source>
         <translation>Division durch null nicht möglich</translation>
@@ -795,13 +805,6 @@
         <translation>mal</translation>
     </message>
     <message>
-        <location filename="../src/core/speech/CalculatorKeyTable.cpp" line="74"/>
-        <location filename="../src/core/speech/CoordinatePhrase.cpp" line="53"/>
-        <location filename="../src/core/speech/SymbolExpander.cpp" line="68"/>
-        <source>minus</source>
-        <translation>minus</translation>
-    </message>
-    <message>
         <location filename="../src/core/speech/CalculatorKeyTable.cpp" line="77"/>
         <source>memory recall</source>
         <translation>Speicher abrufen</translation>
@@ -809,7 +812,7 @@
     <message>
         <location filename="../src/core/speech/CoordinatePhrase.cpp" line="47"/>
         <source>x = %1, y = %2</source>
-        <translation>x = %1, y = %2</translation>
+        <translation>x = %1; y = %2</translation>
     </message>
     <message>
         <location filename="../src/core/speech/CoordinatePhrase.cpp" line="52"/>
@@ -827,7 +830,7 @@
     <message>
         <location filename="../src/core/speech/CoordinatePhrase.cpp" line="59"/>
         <source>Infinity</source>
-        <translation type="unfinished"></translation>
+        <translation>Unendlich</translation>
     </message>
     <message>
         <location filename="../src/core/speech/SymbolExpander.cpp" line="11"/>
@@ -905,17 +908,17 @@
     <message>
         <location filename="../src/platform/speech/CDirectSS.cpp" line="18"/>
         <source>%1 (%2 to %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 bis %3)</translation>
     </message>
     <message>
         <location filename="../src/platform/speech/CDirectSS.cpp" line="166"/>
         <source>Voice %1, rate %2, pitch %3, volume %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stimme %1, Tempo %2, Tonhöhe %3, Lautstärke %4.</translation>
     </message>
     <message>
         <location filename="../src/platform/speech/CDirectSS.cpp" line="176"/>
         <source>%1 pronounces words by the rules of voice %2; it has no user lexicon.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 spricht Wörter nach den Regeln der Stimme %2 aus; es hat kein Benutzerlexikon.</translation>
     </message>
     <message>
         <location filename="../src/platform/speech/SelfVoicing.cpp" line="10"/>

@@ -4,6 +4,16 @@
 <context>
     <name>Sonalyx</name>
     <message>
+        <location filename="../src/cli/StepCommand.cpp" line="101"/>
+        <location filename="../src/cli/TextCommand.cpp" line="101"/>
+        <location filename="../src/core/speech/CalculatorKeyTable.cpp" line="74"/>
+        <location filename="../src/core/speech/CoordinatePhrase.cpp" line="53"/>
+        <location filename="../src/core/speech/SymbolExpander.cpp" line="68"/>
+        <location filename="../src/ui/app/Voice.cpp" line="15"/>
+        <source>minus</source>
+        <translation>moins</translation>
+    </message>
+    <message>
         <location filename="../src/core/engines/CCalcEngine.cpp" line="20"/>
         <source>Cannot divide by zero</source>
         <translation>Division par zéro impossible</translation>
@@ -795,13 +805,6 @@
         <translation>fois</translation>
     </message>
     <message>
-        <location filename="../src/core/speech/CalculatorKeyTable.cpp" line="74"/>
-        <location filename="../src/core/speech/CoordinatePhrase.cpp" line="53"/>
-        <location filename="../src/core/speech/SymbolExpander.cpp" line="68"/>
-        <source>minus</source>
-        <translation>moins</translation>
-    </message>
-    <message>
         <location filename="../src/core/speech/CalculatorKeyTable.cpp" line="77"/>
         <source>memory recall</source>
         <translation>rappel de la mémoire</translation>
@@ -827,7 +830,7 @@
     <message>
         <location filename="../src/core/speech/CoordinatePhrase.cpp" line="59"/>
         <source>Infinity</source>
-        <translation type="unfinished"></translation>
+        <translation>Infini</translation>
     </message>
     <message>
         <location filename="../src/core/speech/SymbolExpander.cpp" line="11"/>
@@ -905,17 +908,17 @@
     <message>
         <location filename="../src/platform/speech/CDirectSS.cpp" line="18"/>
         <source>%1 (%2 to %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (de %2 à %3)</translation>
     </message>
     <message>
         <location filename="../src/platform/speech/CDirectSS.cpp" line="166"/>
         <source>Voice %1, rate %2, pitch %3, volume %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voix %1, débit %2, hauteur %3, volume %4.</translation>
     </message>
     <message>
         <location filename="../src/platform/speech/CDirectSS.cpp" line="176"/>
         <source>%1 pronounces words by the rules of voice %2; it has no user lexicon.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 prononce les mots selon les règles de la voix %2 ; il n&apos;a pas de lexique utilisateur.</translation>
     </message>
     <message>
         <location filename="../src/platform/speech/SelfVoicing.cpp" line="10"/>

@@ -11,6 +11,8 @@
 #include "core/math/DataSet.h"
 #include "core/settings/SettingsStore.h"
 #include "core/sound/GraphPlayback.h"
+#include "core/speech/SignWords.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx::cli {
@@ -95,7 +97,9 @@ int runStepCommand(const Arguments& args, std::ostream& out) {
     if (!action.speech.empty()) {
       out << "say";
       if (action.speechDelayMs > 0) out << " after " << action.speechDelayMs << " ms";
-      out << ": " << action.speech << '\n';
+      // As the voice says it: a negative number's sign as a word.
+      out << ": " << spellNegativeSigns(action.speech, translateWith(cliTranslator(), SLX_TR("minus")))
+          << '\n';
     }
     if (action.focusGraph) out << "focus the graph\n";
   }

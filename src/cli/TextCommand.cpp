@@ -9,7 +9,9 @@
 #include "core/speech/CalculatorKeyTable.h"
 #include "core/speech/CoordinatePhrase.h"
 #include "core/speech/LanguageTable.h"
+#include "core/speech/SignWords.h"
 #include "core/speech/SymbolExpander.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/DecimalText.h"
 #include "core/utility/FPRounder.h"
 
@@ -95,7 +97,9 @@ int runTextCommand(const Arguments& args, std::ostream& out) {
     expectArguments(args, 3, 3, "coords X Y");
     const double x = readNumber(args[1], "X");
     const double y = readNumber(args[2], "Y");
-    out << coordinatePhraseFromSettings(x, y) << '\n';
+    out << spellNegativeSigns(coordinatePhraseFromSettings(x, y),
+                              translateWith(cliTranslator(), SLX_TR("minus")))
+        << '\n';
     return 0;
   }
 
