@@ -4,11 +4,14 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/engines/CCalcEngine.h"
 #include "core/engines/CalcKeyPress.h"
+#include "core/pages/CalculatorKeyboard.h"
 #include "core/speech/CalculatorAnnouncements.h"
 #include "core/speech/CalculatorKeyIds.h"
 #include "core/speech/CalculatorKeyTable.h"
+#include "core/speech/SymbolExpander.h"
 
 namespace sonalyx::cli {
 
@@ -78,11 +81,10 @@ std::string knownWords(const CalculatorKeyTable& table) {
   return known;
 }
 
-void press(CCalcEngine& engine, const CalcKey& key) {
+CalcKeyPress press(CCalcEngine& engine, const CalcKey& key) {
   switch (key.kind) {
     case CalcKey::Command:
-      pressCalcKey(engine, key.value);
-      break;
+      return pressCalcKey(engine, key.value);
     case CalcKey::Base:
       engine.SetNumberBaseState(key.value);
       break;
@@ -90,18 +92,40 @@ void press(CCalcEngine& engine, const CalcKey& key) {
       engine.angleMode = key.value;
       break;
   }
+  return {};
+}
+
+// What the page says after a key: the key's spoken name, and with a result the
+// display read aloud.
+std::string keyFeedback(const CalculatorKeyTable& table, const CalcKey& key, const CalcKeyPress& press,
+                        const CCalcEngine& engine) {
+  std::string name;
+  if (key.value == kCalcCommandRightShift) {
+    name = translateWith(cliTranslator(), std::string(kRightShiftWord));
+  } else if (const CalculatorKey* found =
+                 table.find(key.value == kCalcCommandMemoryRecall ? kKeyMemoryRecall : key.value)) {
+    name = found->spokenText();
+  }
+  if (!press.speakDisplay) return name;
+  std::string display =
+      engine.isError() ? translateWith(cliTranslator(), engine.displayText) : engine.displayText;
+  SymbolExpander expander(expressionSymbolTable(), cliTranslator());
+  expander.BuildSymbolMap();
+  expander.ExpandSymbols(display);
+  return name + ", " + display;
 }
 
 }  // namespace
 
 int runCalcCommand(const Arguments& args, std::ostream& out) {
   bool trace = false;
-  const CalculatorKeyTable table;
+  bool say = false;
+  const CalculatorKeyTable table(cliTranslator());
   std::vector<CalcKey> keys;
   std::vector<std::string> names;
   for (const auto& arg : args) {
-    if (arg == "--trace") {
-      trace = true;
+    if (arg == "--trace" || arg == "--say") {
+      (arg == "--say" ? say : trace) = true;
       continue;
     }
     const std::optional<CalcKey> key = findKey(table, arg);
@@ -113,18 +137,25 @@ int runCalcCommand(const Arguments& args, std::ostream& out) {
   if (keys.empty()) throw CliError::usage("calc needs at least one key");
   CCalcEngine engine;
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    press(engine, keys[i]);
+    const CalcKeyPress pressed = press(engine, keys[i]);
+    if (say && keys[i].kind == CalcKey::Command && pressed.performed)
+      out << names[i] << '\t' << keyFeedback(table, keys[i], pressed, engine) << '\n';
     if (!trace) continue;
     out << names[i] << '\t' << engine.displayText;
     // What the page announces when its base or angle list changes.
     if (keys[i].kind == CalcKey::Base) {
       const int value = keys[i].value;
-      out << '\t' << numberBaseAnnouncement(value == 16 ? 0 : value == 10 ? 1 : value == 8 ? 2 : 3);
+      out << '\t'
+          << translateWith(cliTranslator(), std::string(numberBaseAnnouncement(value == 16   ? 0
+                                                                               : value == 10 ? 1
+                                                                               : value == 8  ? 2
+                                                                                             : 3)));
     }
-    if (keys[i].kind == CalcKey::Angle) out << '\t' << angleModeAnnouncement(keys[i].value);
+    if (keys[i].kind == CalcKey::Angle)
+      out << '\t' << translateWith(cliTranslator(), std::string(angleModeAnnouncement(keys[i].value)));
     out << '\n';
   }
-  if (!trace) out << engine.displayText << '\n';
+  if (!trace && !say) out << engine.displayText << '\n';
   return 0;
 }
 

@@ -2,9 +2,12 @@
 
 #include <exception>
 #include <functional>
+#include <optional>
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
+#include "core/speech/LanguageTable.h"
 
 namespace sonalyx::cli {
 
@@ -40,7 +43,8 @@ const std::vector<CommandEntry>& commandTable() {
       {"step", "playback keys pressed on a graph: what each plays and says",
        "step [--expr EXPRESSION|--file FILE] [--expr2 EXPRESSION|--file2 FILE] KEY...", runStepCommand},
       {"fit", "a regression fit of a data set", "fit MODEL FILE [--period B] [--expression]", runFitCommand},
-      {"calc", "presses calculator keys and shows the display", "calc [--trace] KEY...", runCalcCommand},
+      {"calc", "presses calculator keys and shows the display or says what the page says",
+       "calc [--trace|--say] KEY...", runCalcCommand},
       {"speak", "says a text with the program's voice", "speak [-o OUT.wav] [--voice V] [--rate R] TEXT",
        runSpeakCommand},
       {"earcon", "plays a sound effect, 0 to 6", "earcon ID", runEarconCommand},
@@ -57,7 +61,10 @@ const std::vector<CommandEntry>& commandTable() {
 // The usage of one command group after its own mistake, of all of them otherwise.
 void writeUsage(std::ostream& to, const CommandEntry* only = nullptr) {
   to << "usage:\n";
-  if (only == nullptr) to << "  sonalyx-cli --version\n";
+  if (only == nullptr) {
+    to << "  sonalyx-cli --version\n";
+    to << "  sonalyx-cli --lang ID COMMAND...  (1053 Swedish, 1036 French, 1031 German, 3082 Spanish)\n";
+  }
   for (const auto& entry : commandTable()) {
     if (only != nullptr && only != &entry) continue;
     to << "  " << entry.name << ": " << entry.description << '\n';
@@ -74,7 +81,30 @@ void writeUsage(std::ostream& to, const CommandEntry* only = nullptr) {
 
 }  // namespace
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+namespace {
+
+// A Windows language id as the program's --lang takes it: digits only.
+std::optional<int> langIdArgument(const std::string& text) {
+  if (text.empty() || text.size() > 5 || text.find_first_not_of("0123456789") != std::string::npos)
+    return std::nullopt;
+  return std::stoi(text);
+}
+
+}  // namespace
+
+int runCli(const std::vector<std::string>& given, std::ostream& out, std::ostream& err) {
+  std::vector<std::string> args = given;
+  setCliLanguage(Language::English);
+  if (!args.empty() && args[0] == "--lang") {
+    const std::optional<int> langId = args.size() > 1 ? langIdArgument(args[1]) : std::nullopt;
+    if (!langId) {
+      err << "sonalyx-cli: --lang needs a Windows language id such as 1036\n";
+      writeUsage(err);
+      return 2;
+    }
+    setCliLanguage(languageForLangId(*langId));
+    args.erase(args.begin(), args.begin() + 2);
+  }
   if (args.empty()) {
     writeUsage(err);
     return 2;
@@ -106,7 +136,8 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
     return e.exitStatus();
   } catch (const std::exception& e) {
     out.flush();
-    err << e.what() << '\n';
+    // A core failure's text is its English key (a file error, a refusal).
+    err << translateWith(cliTranslator(), e.what()) << '\n';
     return 1;
   }
 }

@@ -1,6 +1,7 @@
 #include "cli/DataSetArgument.h"
 
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "cli/SamplingDomain.h"
 #include "core/files/DataSetFile.h"
 #include "core/files/FileError.h"
@@ -10,7 +11,7 @@ namespace sonalyx::cli {
 
 DataSet sampledSet(const std::string& expression) {
   const SamplingDomain domain = SamplingDomain::fromSettings();
-  FunctionSampler sampler;
+  FunctionSampler sampler(cliTranslator());
   DataSet set;
   std::string error;
   if (!sampler.computeFunction(set, expression, domain.x0, domain.x1, domain.points, error))
@@ -23,9 +24,9 @@ DataSet fileSet(const std::string& path) {
   try {
     set.assign(readDataSetFile(path));
   } catch (const FileError& e) {
-    throw CliError::user(e.what());
+    throw CliError::user(translateWith(cliTranslator(), e.what()));
   } catch (const DataSetTextError& e) {
-    throw CliError::user(e.what());
+    throw CliError::user(e.message(cliTranslator()));
   }
   return set;
 }

@@ -4,6 +4,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/engines/Evaluator.h"
 #include "core/utility/NumberFormat.h"
 
@@ -17,7 +18,7 @@ int runEvalCommand(const Arguments& args, std::ostream& out) {
   for (std::size_t i = 1; i < args.size(); ++i) expression += ' ' + args[i];
   double result = 0.0;
   EvaluationError error;
-  if (!Calculate(expression, result, error)) throw CliError::user(invalidEntryText(error));
+  if (!Calculate(expression, result, error)) throw CliError::user(invalidEntryText(error, cliTranslator()));
   out << formatNumber(result, "%.14g") << '\n';
   // A value outside a function's domain is an answer, not a failure, but it says why.
   if (std::isnan(result)) {

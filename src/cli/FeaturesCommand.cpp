@@ -2,6 +2,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "cli/SamplingDomain.h"
 #include "core/files/DataSetFile.h"
 #include "core/math/CurveFeatures.h"
@@ -25,7 +26,7 @@ int runFeaturesCommand(const Arguments& args, std::ostream& out) {
   DataSet set;
   if (args.size() == 2 && args[0] == "--expr") {
     const SamplingDomain domain = SamplingDomain::fromSettings();
-    FunctionSampler sampler;
+    FunctionSampler sampler(cliTranslator());
     std::string error;
     if (!sampler.computeFunction(set, args[1], domain.x0, domain.x1, domain.points, error))
       throw CliError::user(error);

@@ -3,7 +3,10 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/files/DataSetFile.h"
+#include "core/files/DataSetTextError.h"
+#include "core/files/FileError.h"
 #include "core/math/DataSet.h"
 #include "core/math/FitExpression.h"
 #include "core/math/FitModel.h"
@@ -16,11 +19,18 @@ namespace {
 
 DataSet readSet(const std::string& path) {
   DataSet set;
-  set.assign(readDataSetFile(path));
+  try {
+    set.assign(readDataSetFile(path));
+  } catch (const FileError& e) {
+    throw CliError::user(translateWith(cliTranslator(), e.what()));
+  } catch (const DataSetTextError& e) {
+    throw CliError::user(e.message(cliTranslator()));
+  }
   // The Data page's own refusal, before any fit is tried.
-  if (!set.hasData()) throw CliError::user("No data plotted -- nothing to calculate.");
+  if (!set.hasData())
+    throw CliError::user(translateWith(cliTranslator(), "No data plotted -- nothing to calculate."));
   // The fits need two points; the page would show an empty list, which says nothing.
-  if (set.count() < 2) throw CliError::user("Not enough points for fit.");
+  if (set.count() < 2) throw CliError::user(translateWith(cliTranslator(), "Not enough points for fit."));
   return set;
 }
 
@@ -28,7 +38,7 @@ int printFit(int model, const DataSet& set, std::optional<double> period, bool e
              std::ostream& out) {
   // Without a period the dialog's "Use Default" is taken: the estimate stands.
   const SineStartChooser chooser = [period](double estimate) { return period.value_or(estimate); };
-  const FitResult result = runFit(model, set, chooser);
+  const FitResult result = runFit(model, set, chooser, cliTranslator());
   for (const std::string& line : result.lines) out << line << '\n';
   if (expression && !result.coefficients.empty())
     out << "f(x) = " << fitExpression(model, result.coefficients) << '\n';

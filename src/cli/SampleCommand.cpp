@@ -4,6 +4,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "cli/SamplingDomain.h"
 #include "core/files/DataSetFile.h"
 #include "core/math/DataSet.h"
@@ -81,7 +82,7 @@ int runSampleCommand(const Arguments& args, std::ostream& out) {
   }
   if (!haveExpression) throw CliError::usage("sample: no expression given");
 
-  FunctionSampler sampler;
+  FunctionSampler sampler(cliTranslator());
   DataSet set;
   std::string error;
   if (!sampler.computeFunction(set, expression, domain.x0, domain.x1, domain.points, error))

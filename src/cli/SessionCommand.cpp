@@ -3,6 +3,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/pages/EvaluatorSession.h"
 #include "core/pages/MatrixSession.h"
 
@@ -38,7 +39,7 @@ void printRecall(const std::string& line, const std::optional<std::string>& show
 
 int runEvaluateCommand(const Arguments& args, std::ostream& out) {
   requireLines(args, "evaluate");
-  EvaluatorSession session;
+  EvaluatorSession session(cliTranslator());
   for (const std::string& line : args) {
     if (line == kUp || line == kDown) {
       const auto recall = line == kUp ? session.recallUp() : session.recallDown();
@@ -60,7 +61,7 @@ int runEvaluateCommand(const Arguments& args, std::ostream& out) {
 
 int runMatrixCommand(const Arguments& args, std::ostream& out) {
   requireLines(args, "matrix");
-  MatrixSession session;
+  MatrixSession session(cliTranslator());
   for (const std::string& line : args) {
     if (line == kUp || line == kDown) {
       const auto recall = line == kUp ? session.recallUp() : session.recallDown();

@@ -3,6 +3,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/files/ClipboardText.h"
 #include "core/files/DataSetFile.h"
 #include "core/files/FileError.h"
@@ -75,9 +76,9 @@ int runSetCommand(const Arguments& args, std::ostream& out) {
       return 0;
     }
   } catch (const FileError& e) {
-    throw CliError::user(e.what());
+    throw CliError::user(translateWith(cliTranslator(), e.what()));
   } catch (const DataSetTextError& e) {
-    throw CliError::user(e.what());
+    throw CliError::user(e.message(cliTranslator()));
   }
   throw CliError::usage("set: unknown action '" + action + "'");
 }

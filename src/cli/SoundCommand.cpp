@@ -5,6 +5,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "cli/SamplingDomain.h"
 #include "core/files/DataSetFile.h"
 #include "core/files/WaveExport.h"
@@ -67,7 +68,7 @@ SoundRequest parseSoundRequest(const std::string& command, const Arguments& args
     // As the Data 1 page evaluates f(x): its domain and point count, then polar
     // points converted when its Polar choice is on.
     const SamplingDomain domain = SamplingDomain::fromSettings();
-    FunctionSampler sampler;
+    FunctionSampler sampler(cliTranslator());
     std::string error;
     if (!sampler.computeFunction(request.set, expression, domain.x0, domain.x1, domain.points, error))
       throw CliError::user(error);
@@ -100,7 +101,8 @@ int runSonifyCommand(const Arguments& args, std::ostream& out) {
 int runPlayCommand(const Arguments& args, std::ostream& /*out*/) {
   SoundRequest request = parseSoundRequest("play", args, false);
   if (!request.set.hasData()) throw CliError::user("The data set is empty.");
-  if (!playTimeAllowed(SettingsStore::openDefault().GetPlayTime())) throw CliError::user(playTimeLimitText());
+  if (!playTimeAllowed(SettingsStore::openDefault().GetPlayTime()))
+    throw CliError::user(playTimeLimitText(cliTranslator()));
   AudioOutput& output = AudioOutput::instance();
   CSNControl engine(output);
   engine.CreateInstance();

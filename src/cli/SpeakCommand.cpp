@@ -8,6 +8,7 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/settings/SettingsStore.h"
 #include "core/sound/AudioFormat.h"
 #include "core/sound/StreamResampler.h"
@@ -89,6 +90,8 @@ void applyChoices(const SpeakRequest& request, CDirectSS& voice) {
   if (request.haveVoice) {
     if (!findVoice(engine.voices(), request.voice))
       throw CliError::user("no voice of " + engine.name() + " matches '" + request.voice + "'");
+    // Named in so many words: it speaks whatever the language.
+    voice.setLanguage({}, cliTranslator());
     voice.SelectVoice(request.voice);
   }
   if (request.haveRate) voice.SetRate(static_cast<std::uint32_t>(request.rate));
@@ -111,6 +114,7 @@ int runSpeakCommand(const Arguments& args, std::ostream&) {
   if (!request.saveAs.empty()) {
     AudioOutput silent(AudioOutput::Mode::Null);
     CDirectSS voice(settings);
+    voice.setLanguage(std::string(languageCode(cliLanguage())), cliTranslator());
     if (!voice.Create(SpeechEngineRegistry::create(engineName, silent)))
       throw CliError::user("the speech engine '" + engineName + "' could not start");
     applyChoices(request, voice);
@@ -132,6 +136,7 @@ int runSpeakCommand(const Arguments& args, std::ostream&) {
   AudioOutput& output = AudioOutput::instance();
   OutputSequencer sequencer(output);
   CDirectSS voice(settings);
+  voice.setLanguage(std::string(languageCode(cliLanguage())), cliTranslator());
   if (!voice.Create(sequencer))
     throw CliError::user("the speech engine '" + engineName + "' could not start");
   applyChoices(request, voice);

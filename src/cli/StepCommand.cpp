@@ -4,12 +4,15 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "cli/DataSetArgument.h"
 #include "core/graph/GraphScaling.h"
 #include "core/graph/GraphTicks.h"
 #include "core/math/DataSet.h"
 #include "core/settings/SettingsStore.h"
 #include "core/sound/GraphPlayback.h"
+#include "core/speech/SignWords.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx::cli {
@@ -71,7 +74,7 @@ int runStepCommand(const Arguments& args, std::ostream& out) {
   std::array<DataSet, 4> slots = slotsFrom(args, next);
   if (next == args.size()) throw CliError::usage("step needs at least one key: " + keyList());
   const SettingsStore store = SettingsStore::openDefault();
-  GraphPlayback playback(slots, store);
+  GraphPlayback playback(slots, store, cliTranslator());
   std::int32_t cursor = -1;
   for (; next < args.size(); ++next) {
     const auto key = keyNames().find(args[next]);
@@ -94,7 +97,9 @@ int runStepCommand(const Arguments& args, std::ostream& out) {
     if (!action.speech.empty()) {
       out << "say";
       if (action.speechDelayMs > 0) out << " after " << action.speechDelayMs << " ms";
-      out << ": " << action.speech << '\n';
+      // As the voice says it: a negative number's sign as a word.
+      out << ": " << spellNegativeSigns(action.speech, translateWith(cliTranslator(), SLX_TR("minus")))
+          << '\n';
     }
     if (action.focusGraph) out << "focus the graph\n";
   }

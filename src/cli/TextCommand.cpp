@@ -4,11 +4,14 @@
 
 #include "cli/CliCommands.h"
 #include "cli/CliError.h"
+#include "cli/CliLanguage.h"
 #include "core/settings/SettingsStore.h"
 #include "core/speech/CalculatorKeyTable.h"
 #include "core/speech/CoordinatePhrase.h"
 #include "core/speech/LanguageTable.h"
+#include "core/speech/SignWords.h"
 #include "core/speech/SymbolExpander.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/DecimalText.h"
 #include "core/utility/FPRounder.h"
 
@@ -19,7 +22,7 @@ namespace {
 // Spoken with the user's precision, read at the moment of use like every setting.
 std::string coordinatePhraseFromSettings(double x, double y) {
   const std::uint32_t numDec = SettingsStore::openDefault().GetNumDec();
-  return coordinatePhrase(x, y, static_cast<int>(std::min<std::uint32_t>(numDec, 1000)));
+  return coordinatePhrase(x, y, static_cast<int>(std::min<std::uint32_t>(numDec, 1000)), cliTranslator());
 }
 
 // A whole number of decimal digits only, no sign, no blanks.
@@ -54,7 +57,7 @@ int runTextCommand(const Arguments& args, std::ostream& out) {
 
   if (action == "expand") {
     expectArguments(args, 2, 2, "expand TEXT");
-    SymbolExpander expander;
+    SymbolExpander expander(expressionSymbolTable(), cliTranslator());
     expander.BuildSymbolMap();
     std::string text = args[1];
     expander.ExpandSymbols(text);
@@ -76,7 +79,7 @@ int runTextCommand(const Arguments& args, std::ostream& out) {
     long long id = 0;
     if (!readWholeNumber(args[1], 0x7FFFFFFF, id))
       throw CliError::usage("ID must be a whole number, not '" + args[1] + "'");
-    const CalculatorKeyTable keys;
+    const CalculatorKeyTable keys(cliTranslator());
     const CalculatorKey* key = keys.find(static_cast<int>(id));
     if (key == nullptr) throw CliError::user("no calculator key has the id " + args[1]);
     out << key->spokenText() << '\n';
@@ -94,7 +97,9 @@ int runTextCommand(const Arguments& args, std::ostream& out) {
     expectArguments(args, 3, 3, "coords X Y");
     const double x = readNumber(args[1], "X");
     const double y = readNumber(args[2], "Y");
-    out << coordinatePhraseFromSettings(x, y) << '\n';
+    out << spellNegativeSigns(coordinatePhraseFromSettings(x, y),
+                              translateWith(cliTranslator(), SLX_TR("minus")))
+        << '\n';
     return 0;
   }
 

@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "core/engines/CalcNumerics.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/DecimalText.h"
 #include "core/utility/NumberFormat.h"
 
@@ -16,10 +17,10 @@ using cn::Real;
 
 namespace {
 
-constexpr const char* kDivideByZero = "Cannot divide by zero";
-constexpr const char* kUndefined = "Result is undefined";
-constexpr const char* kInvalidInput = "Invalid input";
-constexpr const char* kOverflow = "Overflow";
+constexpr const char* kDivideByZero = SLX_TR("Cannot divide by zero");
+constexpr const char* kUndefined = SLX_TR("Result is undefined");
+constexpr const char* kInvalidInput = SLX_TR("Invalid input");
+constexpr const char* kOverflow = SLX_TR("Overflow");
 
 // Deeper nesting is ignored; nobody types more, and it bounds the memory used.
 constexpr std::size_t kMostOpenParentheses = 100;

@@ -1,4 +1,5 @@
 #include "core/engines/EvaluationError.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -10,23 +11,23 @@ const char* pattern(EvaluationError::Kind kind) {
     case Kind::None:
       return "";
     case Kind::Empty:
-      return "The expression is empty.";
+      return SLX_TR("The expression is empty.");
     case Kind::EndsTooEarly:
-      return "The expression ends too early.";
+      return SLX_TR("The expression ends too early.");
     case Kind::MissingClosingBracket:
-      return "Missing closing bracket.";
+      return SLX_TR("Missing closing bracket.");
     case Kind::UnknownName:
-      return "Unknown name %s.";
+      return SLX_TR("Unknown name %s.");
     case Kind::FunctionNeedsArgument:
-      return "%s needs its argument in brackets.";
+      return SLX_TR("%s needs its argument in brackets.");
     case Kind::Unexpected:
-      return "Unexpected \"%s\".";
+      return SLX_TR("Unexpected \"%s\".");
     case Kind::NestedTooDeeply:
-      return "The expression is nested too deeply.";
+      return SLX_TR("The expression is nested too deeply.");
     case Kind::NumberBeforeX:
-      return "Write a * between a number and x.";
+      return SLX_TR("Write a * between a number and x.");
     case Kind::TooLong:
-      return "The expression is longer than %s characters.";
+      return SLX_TR("The expression is longer than %s characters.");
   }
   return "";
 }
@@ -40,7 +41,7 @@ std::string evaluationErrorText(const EvaluationError& error, const Translator& 
 }
 
 std::string invalidEntryText(const EvaluationError& error, const Translator& translate) {
-  std::string text = translateWith(translate, "Invalid entry.");
+  std::string text = translateWith(translate, SLX_TR("Invalid entry."));
   const std::string reason = evaluationErrorText(error, translate);
   if (!reason.empty()) text += ' ' + reason;
   return text;

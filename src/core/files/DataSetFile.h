@@ -8,6 +8,7 @@
 #include "core/files/DataSetTextError.h"
 #include "core/math/DataPoint.h"
 #include "core/math/DataSet.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -19,7 +20,7 @@ inline constexpr char kTextLineEnd[] = "\n";
 #endif
 
 // The one entry of the open and save dialogs' file-type list.
-inline constexpr char kDataSetFileFilter[] = "SLX Data Files (*.set)";
+inline constexpr char kDataSetFileFilter[] = SLX_TR("SLX Data Files (*.set)");
 inline constexpr char kDataSetFilePattern[] = "*.set";
 
 // One line per point, in the set's order: x left-justified and y right-justified,

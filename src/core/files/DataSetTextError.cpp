@@ -1,6 +1,7 @@
 #include "core/files/DataSetTextError.h"
 
 #include "core/limits/Limits.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -15,16 +16,18 @@ std::string filled(std::string text, std::size_t number) {
 std::string describe(DataSetTextError::Problem problem, std::size_t line, const Translator& translate) {
   switch (problem) {
     case DataSetTextError::NoPoints:
-      return translateWith(translate, "No points were found.");
+      return translateWith(translate, SLX_TR("No points were found."));
     case DataSetTextError::TooManyPoints:
-      return filled(translateWith(translate, "A data set holds at most %d points."), limits::kMostPoints);
-    case DataSetTextError::TooLarge:
-      return filled(translateWith(translate, "The text is too large for a data set of at most %d points."),
+      return filled(translateWith(translate, SLX_TR("A data set holds at most %d points.")),
                     limits::kMostPoints);
+    case DataSetTextError::TooLarge:
+      return filled(
+          translateWith(translate, SLX_TR("The text is too large for a data set of at most %d points.")),
+          limits::kMostPoints);
     case DataSetTextError::NotTwoNumbers:
       break;
   }
-  return filled(translateWith(translate, "Line %d does not hold two numbers."), line);
+  return filled(translateWith(translate, SLX_TR("Line %d does not hold two numbers.")), line);
 }
 
 }  // namespace

@@ -2,26 +2,27 @@
 
 #include <cerrno>
 #include <iterator>
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
 std::string fileErrorText(int cause) {
   static const char* const texts[] = {
-      "No error occurred.",
-      "An unspecified error occurred.",
-      "The file could not be located.",
-      "All or part of the path is invalid.",
-      "The permitted number of open files was exceeded.",
-      "The file could not be accessed.",
-      "There was an attempt to use an invalid file handle.",
-      "The current working directory cannot be removed.",
-      "There are no more directory entries.",
-      "There was an error trying to set the file pointer.",
-      "There was a hardware error.",
-      "SHARE.EXE was not loaded, or a shared region was locked.",
-      "There was an attempt to lock a region that was already locked.",
-      "The disk is full.",
-      "The end of file was reached.",
+      SLX_TR("No error occurred."),
+      SLX_TR("An unspecified error occurred."),
+      SLX_TR("The file could not be located."),
+      SLX_TR("All or part of the path is invalid."),
+      SLX_TR("The permitted number of open files was exceeded."),
+      SLX_TR("The file could not be accessed."),
+      SLX_TR("There was an attempt to use an invalid file handle."),
+      SLX_TR("The current working directory cannot be removed."),
+      SLX_TR("There are no more directory entries."),
+      SLX_TR("There was an error trying to set the file pointer."),
+      SLX_TR("There was a hardware error."),
+      SLX_TR("SHARE.EXE was not loaded, or a shared region was locked."),
+      SLX_TR("There was an attempt to lock a region that was already locked."),
+      SLX_TR("The disk is full."),
+      SLX_TR("The end of file was reached."),
   };
   if (cause < 0 || cause >= static_cast<int>(std::size(texts))) return {};
   return texts[cause];

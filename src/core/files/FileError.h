@@ -2,13 +2,14 @@
 
 #include <stdexcept>
 #include <string>
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
 // Captions of the message boxes that report a failed load or save (translated by the
 // caller; the English text is its own key).
-inline constexpr char kFileOpenErrorCaption[] = "File Open Error";
-inline constexpr char kFileSaveErrorCaption[] = "File Save Error";
+inline constexpr char kFileOpenErrorCaption[] = SLX_TR("File Open Error");
+inline constexpr char kFileSaveErrorCaption[] = SLX_TR("File Save Error");
 
 // The English text of a file failure's cause; causes outside 0..14 have no text.
 std::string fileErrorText(int cause);

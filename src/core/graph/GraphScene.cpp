@@ -8,6 +8,7 @@
 #include "core/graph/GraphScaling.h"
 #include "core/graph/GraphTicks.h"
 #include "core/settings/SettingsStore.h"
+#include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
 
@@ -241,9 +242,13 @@ GraphScene buildGraphScene(const std::array<DataSet, 4>& slots, const GraphStyle
   scene.marks = xTickMarks(xs, rect, style.frameType);
   for (const DeviceLine& mark : yTickMarks(ys, rect, style.frameType)) scene.marks.push_back(mark);
   if (style.showXLabels)
-    for (const Tick& tick : xs) scene.xLabels.push_back({{tick.position, bottom}, tickLabel(tick.value)});
+    for (const Tick& tick : xs)
+      scene.xLabels.push_back(
+          {{tick.position, bottom}, withDecimalSign(tickLabel(tick.value), style.decimalSign)});
   if (style.showYLabels)
-    for (const Tick& tick : ys) scene.yLabels.push_back({{rect.left, tick.position}, tickLabel(tick.value)});
+    for (const Tick& tick : ys)
+      scene.yLabels.push_back(
+          {{rect.left, tick.position}, withDecimalSign(tickLabel(tick.value), style.decimalSign)});
 
   // Data sets 1 and 2 are drawn together, the one not played in yellow; the sum
   // and the difference alone.

@@ -54,6 +54,7 @@ struct GraphStyle {
   GraphRange settingsRange;
   bool autoScaleX = false;
   bool autoScaleY = false;
+  std::string decimalSign = ".";  // of the tick labels: the user's language's
 };
 
 GraphStyle graphStyleFromSettings(const SettingsStore& store);

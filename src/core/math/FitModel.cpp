@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cctype>
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -13,19 +14,19 @@ struct ModelEntry {
 };
 
 constexpr std::array<ModelEntry, kFitModelCount> kModels = {{
-    {"stats", "Basic Statistical Information"},
-    {"linear", "Linear: y = a + bx"},
-    {"quadratic", "Quadratic: y = ax^2 + bx + c"},
-    {"cubic", "Cubic: y = ax^3 + bx^2 + cx + d"},
-    {"quartic", "Quartic: y = ax^4 + bx^3 + cx^2 + dx + e"},
-    {"exponential", "Exponential: y = a b^x"},
-    {"logarithmic", "Logarithmic: y = a + b*ln(x)"},
-    {"power", "Power: y = a x^b"},
-    {"hyperbolic", "Hyperbolic: y = a + b/x"},
-    {"rational", "Rational: y = a / (b + x)"},
-    {"rational-x", "Rational: y = ax / (b + x)"},
-    {"logistic", "Logistic: y = c / (1 + a*exp(-b*x))"},
-    {"sinusoidal", "Sinusoidal: y = a sin(bx+c) + d"},
+    {"stats", SLX_TR("Basic Statistical Information")},
+    {"linear", SLX_TR("Linear: y = a + bx")},
+    {"quadratic", SLX_TR("Quadratic: y = ax^2 + bx + c")},
+    {"cubic", SLX_TR("Cubic: y = ax^3 + bx^2 + cx + d")},
+    {"quartic", SLX_TR("Quartic: y = ax^4 + bx^3 + cx^2 + dx + e")},
+    {"exponential", SLX_TR("Exponential: y = a b^x")},
+    {"logarithmic", SLX_TR("Logarithmic: y = a + b*ln(x)")},
+    {"power", SLX_TR("Power: y = a x^b")},
+    {"hyperbolic", SLX_TR("Hyperbolic: y = a + b/x")},
+    {"rational", SLX_TR("Rational: y = a / (b + x)")},
+    {"rational-x", SLX_TR("Rational: y = ax / (b + x)")},
+    {"logistic", SLX_TR("Logistic: y = c / (1 + a*exp(-b*x))")},
+    {"sinusoidal", SLX_TR("Sinusoidal: y = a sin(bx+c) + d")},
 }};
 
 bool sameIgnoringCase(std::string_view a, std::string_view b) {

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "core/speech/TranslationMarker.h"
+#include "core/speech/Translator.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
@@ -14,15 +16,15 @@ std::string FitText::translate(const std::string& english) const {
 }
 
 std::string FitText::countLine(std::size_t count) const {
-  return translate("Number of points:") + ' ' + std::to_string(count);
+  return translate(SLX_TR("Number of points:")) + ' ' + std::to_string(count);
 }
 
 std::string FitText::valueLine(const std::string& label, double value) const {
-  return translate(label) + ' ' + formatNumber(zeroed(value), "%.10g");
+  return translate(label) + ' ' + numberForPerson(formatNumber(zeroed(value), "%.10g"), m_translate);
 }
 
-std::string FitText::coefficientLine(char letter, double value) {
-  return std::string(1, letter) + ": " + formatNumber(zeroed(value), "%.10g");
+std::string FitText::coefficientLine(char letter, double value) const {
+  return std::string(1, letter) + ": " + numberForPerson(formatNumber(zeroed(value), "%.10g"), m_translate);
 }
 
 double FitText::zeroed(double value) {

@@ -20,10 +20,11 @@ class FitText {
   std::string translate(const std::string& english) const;
   // "Number of points: 12"
   std::string countLine(std::size_t count) const;
-  // The translated label, a blank and the value with "%.10g".
+  // The translated label, a blank and the value with "%.10g" (numbers in the
+  // language's decimal sign).
   std::string valueLine(const std::string& label, double value) const;
   // "a: 1.5" and the like; the letter is not translated.
-  static std::string coefficientLine(char letter, double value);
+  std::string coefficientLine(char letter, double value) const;
   // 0 for a magnitude below 1e-11, a NaN or any other value as it is.
   static double zeroed(double value);
 

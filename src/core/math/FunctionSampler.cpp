@@ -13,6 +13,7 @@
 
 #include "core/engines/EvaluationError.h"
 #include "core/limits/Limits.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -132,7 +133,7 @@ std::string FunctionSampler::translate(const std::string& text) const {
 }
 
 std::string FunctionSampler::invalidEntry(const std::string& reason) const {
-  std::string text = translate("Invalid entry.");
+  std::string text = translate(SLX_TR("Invalid entry."));
   if (!reason.empty()) text += ' ' + reason;
   return text;
 }
@@ -142,15 +143,15 @@ bool FunctionSampler::computeFunction(DataSet& set, const std::string& expressio
   set.clear();
   // Written so that a NaN bound is refused too.
   if (!(x0 < x1)) {
-    errorText = invalidEntry(translate("Start must be below finish."));
+    errorText = invalidEntry(translate(SLX_TR("Start must be below finish.")));
     return false;
   }
   if (numPts < 2) {
-    errorText = invalidEntry(translate("At least 2 points are needed."));
+    errorText = invalidEntry(translate(SLX_TR("At least 2 points are needed.")));
     return false;
   }
   if (static_cast<std::size_t>(numPts) > limits::kMostPoints) {
-    std::string most = translate("At most %d points can be sampled.");
+    std::string most = translate(SLX_TR("At most %d points can be sampled."));
     if (const auto at = most.find("%d"); at != std::string::npos)
       most.replace(at, 2, std::to_string(limits::kMostPoints));
     errorText = invalidEntry(most);
@@ -163,7 +164,7 @@ bool FunctionSampler::computeFunction(DataSet& set, const std::string& expressio
     set.clear();
   }
   if (!built) {
-    errorText = translate("Point allocation error.");
+    errorText = translate(SLX_TR("Point allocation error."));
     return false;
   }
   if (!sampleFunction(set, expression)) {
@@ -176,7 +177,7 @@ bool FunctionSampler::computeFunction(DataSet& set, const std::string& expressio
 bool FunctionSampler::sampleFunction(DataSet& set, const std::string& expression) {
   if (set.count() < 2) {
     set.clear();
-    m_lastError = invalidEntry(translate("Range error: Check plot settings."));
+    m_lastError = invalidEntry(translate(SLX_TR("Range error: Check plot settings.")));
     return false;
   }
   EvaluationError error;
@@ -192,7 +193,7 @@ bool FunctionSampler::sampleFunction(DataSet& set, const std::string& expression
 bool FunctionSampler::sampleFunction(DataSet& set, const CompiledFunction& f) {
   if (set.count() < 2) {
     set.clear();
-    m_lastError = invalidEntry(translate("Range error: Check plot settings."));
+    m_lastError = invalidEntry(translate(SLX_TR("Range error: Check plot settings.")));
     return false;
   }
   try {

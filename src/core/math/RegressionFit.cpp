@@ -13,6 +13,7 @@
 #include "core/math/SinusoidalModel.h"
 #include "core/math/Statistics.h"
 #include "core/math/StraightLineFit.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -23,7 +24,7 @@ constexpr double kPolynomialZeroBelow = 1e-9;
 // The models that divide by x (b/x, ax/(b + x)) reject an x this close to 0.
 constexpr double kSmallestDivisor = 1e-11;
 // For y = a/(b + x) and y = ax/(b + x), whose transformed X mixes x and y.
-constexpr char kModelCannotFit[] = "These points cannot be fitted by this model.";
+constexpr char kModelCannotFit[] = SLX_TR("These points cannot be fitted by this model.");
 
 class FitRun {
  public:
@@ -33,7 +34,7 @@ class FitRun {
   void header(int model, std::size_t count) {
     m_result.lines.push_back(m_text.countLine(count));
     m_result.lines.emplace_back();
-    m_result.lines.push_back(m_text.translate("Regression analysis:"));
+    m_result.lines.push_back(m_text.translate(SLX_TR("Regression analysis:")));
     m_result.lines.push_back(m_text.translate(std::string(fitModelTitle(model))));
     m_result.lines.emplace_back();
   }
@@ -41,7 +42,7 @@ class FitRun {
   void message(const std::string& english) { m_result.lines.push_back(m_text.translate(english)); }
 
   void coefficient(char letter, double value) {
-    m_result.lines.push_back(FitText::coefficientLine(letter, value));
+    m_result.lines.push_back(m_text.coefficientLine(letter, value));
     m_result.coefficients.push_back(FitText::zeroed(value));
   }
 
@@ -52,7 +53,7 @@ class FitRun {
   template <typename Valid, typename Transform, typename Coefficients>
   void straightLine(int model, const char* invalidMessage, Valid valid, Transform transform,
                     Coefficients coefficients, bool takesFlatY = true,
-                    const char* noSpread = "All x values are equal: no line can be fitted.") {
+                    const char* noSpread = SLX_TR("All x values are equal: no line can be fitted.")) {
     const std::size_t count = m_points.size();
     header(model, count);
     for (std::size_t i = 0; i < count; ++i) {
@@ -75,9 +76,9 @@ class FitRun {
     const auto [a, b] = coefficients(line.intercept, line.slope);
     if (line.shape == StraightLineFit::Shape::FlatY) {
       // Every y alike: the line is flat and a correlation means nothing.
-      m_result.lines.push_back("r: " + m_text.translate("undefined"));
+      m_result.lines.push_back("r: " + m_text.translate(SLX_TR("undefined")));
     } else {
-      m_result.lines.push_back(FitText::coefficientLine('r', line.r));
+      m_result.lines.push_back(m_text.coefficientLine('r', line.r));
     }
     coefficient('a', a);
     coefficient('b', b);
@@ -87,12 +88,12 @@ class FitRun {
     const std::size_t count = m_points.size();
     header(degree, count);
     if (count < static_cast<std::size_t>(degree) + 1) {
-      message("Not enough points for fit.");
+      message(SLX_TR("Not enough points for fit."));
       return;
     }
     const std::optional<std::vector<double>> fitted = fitPolynomial(m_points, degree);
     if (!fitted || fitted->size() < static_cast<std::size_t>(degree) + 1) {
-      message("Invalid data set for polynomial fit.");
+      message(SLX_TR("Invalid data set for polynomial fit."));
       return;
     }
     for (std::size_t k = fitted->size(); k-- > 0;) {
@@ -164,7 +165,8 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kExponential:
       run.straightLine(
-          model, "Invalid data set.  Y values must be > 0.", [](const DataPoint& p) { return p.y > 0.0; },
+          model, SLX_TR("Invalid data set.  Y values must be > 0."),
+          [](const DataPoint& p) { return p.y > 0.0; },
           [](const DataPoint& p) {
             return Pair{p.x, std::log(p.y)};
           },
@@ -174,7 +176,8 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kLogarithmic:
       run.straightLine(
-          model, "Invalid data set.  X values must be > 0.", [](const DataPoint& p) { return p.x > 0.0; },
+          model, SLX_TR("Invalid data set.  X values must be > 0."),
+          [](const DataPoint& p) { return p.x > 0.0; },
           [](const DataPoint& p) {
             return Pair{std::log(p.x), p.y};
           },
@@ -182,7 +185,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kPower:
       run.straightLine(
-          model, "Invalid data set.  X and Y values must be > 0.",
+          model, SLX_TR("Invalid data set.  X and Y values must be > 0."),
           [](const DataPoint& p) { return p.x > 0.0 && p.y > 0.0; },
           [](const DataPoint& p) {
             return Pair{std::log(p.x), std::log(p.y)};
@@ -193,7 +196,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kHyperbolic:
       run.straightLine(
-          model, "Invalid data set.  X values cannot = 0.",
+          model, SLX_TR("Invalid data set.  X values cannot = 0."),
           [](const DataPoint& p) { return !(std::fabs(p.x) < kSmallestDivisor); },
           [](const DataPoint& p) {
             return Pair{1.0 / p.x, p.y};
@@ -214,7 +217,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       break;
     case kRationalX:
       run.straightLine(
-          model, "Invalid data set.  X values cannot = 0.",
+          model, SLX_TR("Invalid data set.  X values cannot = 0."),
           [](const DataPoint& p) { return !(std::fabs(p.x) < kSmallestDivisor); },
           [](const DataPoint& p) {
             return Pair{p.y / p.x, p.y};
@@ -229,7 +232,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       run.loadData(fit);
       fit.estimateStart();
       const bool solved = fit.solve();
-      run.nonlinear(model, fit, solved, "Invalid data set for logistic fit.");
+      run.nonlinear(model, fit, solved, SLX_TR("Invalid data set for logistic fit."));
       break;
     }
     case kSinusoidal: {
@@ -242,7 +245,7 @@ FitResult runFit(int model, const DataSet& set, const SineStartChooser& chooseSi
       fit.estimateStart();
       const bool solved = fit.solve();
       if (solved) fit.normalize();
-      run.nonlinear(model, fit, solved, "Invalid data set for sinusoidal fit.");
+      run.nonlinear(model, fit, solved, SLX_TR("Invalid data set for sinusoidal fit."));
       break;
     }
     default:

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/math/FitText.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -43,15 +44,15 @@ std::vector<std::string> statisticsLines(const DataSet& set,
   return {
       text.countLine(s.count),
       "",
-      text.valueLine("Sum of x values:", s.sumX),
-      text.valueLine("Mean value of x:", s.meanX),
-      text.valueLine("Sample standard deviation of x:", s.sampleDeviationX),
-      text.valueLine("Population standard deviation of x:", s.populationDeviationX),
+      text.valueLine(SLX_TR("Sum of x values:"), s.sumX),
+      text.valueLine(SLX_TR("Mean value of x:"), s.meanX),
+      text.valueLine(SLX_TR("Sample standard deviation of x:"), s.sampleDeviationX),
+      text.valueLine(SLX_TR("Population standard deviation of x:"), s.populationDeviationX),
       "",
-      text.valueLine("Sum of y values:", s.sumY),
-      text.valueLine("Mean value of y:", s.meanY),
-      text.valueLine("Sample standard deviation of y:", s.sampleDeviationY),
-      text.valueLine("Population standard deviation of y:", s.populationDeviationY),
+      text.valueLine(SLX_TR("Sum of y values:"), s.sumY),
+      text.valueLine(SLX_TR("Mean value of y:"), s.meanY),
+      text.valueLine(SLX_TR("Sample standard deviation of y:"), s.sampleDeviationY),
+      text.valueLine(SLX_TR("Population standard deviation of y:"), s.populationDeviationY),
   };
 }
 

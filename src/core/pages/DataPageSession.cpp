@@ -8,6 +8,7 @@
 #include "core/files/DataSetFile.h"
 #include "core/math/FitExpression.h"
 #include "core/math/FunctionSampler.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -36,7 +37,7 @@ std::string DataPageSession::say(const char* english) const {
 }
 
 std::string DataPageSession::setName(std::size_t slot) const {
-  return say(slot == DataSet::Data1 ? "Data set 1" : "Data set 2");
+  return say(slot == DataSet::Data1 ? SLX_TR("Data set 1") : SLX_TR("Data set 2"));
 }
 
 bool DataPageSession::isSourceLabel(const std::string& text) const {
@@ -72,7 +73,7 @@ SamplingResult DataPageSession::sample(const SamplingRequest& request, const Tra
   if (!sampler.computeFunction(result.set, request.expression, request.x0, request.x1, request.numPts,
                                result.errorText)) {
     result.set.clear();
-    if (result.errorText.empty()) result.errorText = translateWith(translate, "Invalid entry.");
+    if (result.errorText.empty()) result.errorText = translateWith(translate, SLX_TR("Invalid entry."));
     return result;
   }
   result.errorText.clear();
@@ -98,9 +99,9 @@ DataPageUpdate DataPageSession::accept(const SamplingRequest& request, SamplingR
   }
   update.setChanged = true;
   update.editText = request.expression;
-  update.message =
-      filled(say(request.fittedCurve ? "%s holds the fitted curve: %d points." : "%s is ready: %d points."),
-             {setName(m_slot), std::to_string(count)});
+  update.message = filled(say(request.fittedCurve ? SLX_TR("%s holds the fitted curve: %d points.")
+                                                  : SLX_TR("%s is ready: %d points.")),
+                          {setName(m_slot), std::to_string(count)});
   return update;
 }
 
@@ -143,7 +144,8 @@ DataPageUpdate DataPageSession::paste(const std::string& text) {
   try {
     points = readDataSetText(text);
   } catch (const DataSetTextError& error) {
-    update.message = say("The clipboard does not hold a table of points.") + " " + error.message(m_translate);
+    update.message =
+        say(SLX_TR("The clipboard does not hold a table of points.")) + " " + error.message(m_translate);
     update.refused = true;
     return update;
   }
@@ -153,7 +155,7 @@ DataPageUpdate DataPageSession::paste(const std::string& text) {
   replace(std::move(pasted), say(kUserLabel));
   update.setChanged = true;
   update.editText = m_label;
-  update.message = filled(say("%s: %d points pasted. Ctrl+Z brings back the previous set."),
+  update.message = filled(say(SLX_TR("%s: %d points pasted. Ctrl+Z brings back the previous set.")),
                           {setName(m_slot), std::to_string(count)});
   return update;
 }
@@ -167,7 +169,7 @@ DataPageUpdate DataPageSession::loaded(std::vector<DataPoint> points, const std:
   update.setChanged = true;
   update.editText = m_label;
   update.message =
-      filled(say("%s: %d points read from %s."),
+      filled(say(SLX_TR("%s: %d points read from %s.")),
              {setName(m_slot), std::to_string(count), std::filesystem::path(path).filename().string()});
   return update;
 }
@@ -183,7 +185,7 @@ DataPageUpdate DataPageSession::clear() {
 DataPageUpdate DataPageSession::undo() {
   DataPageUpdate update;
   if (!m_undo) {
-    update.message = say("Nothing to undo.");
+    update.message = say(SLX_TR("Nothing to undo."));
     update.refused = true;
     return update;
   }
@@ -193,8 +195,8 @@ DataPageUpdate DataPageSession::undo() {
   replace(std::move(previous.set), std::move(previous.label));
   update.setChanged = true;
   update.editText = m_label;
-  update.message =
-      filled(say("%s is back as it was: %d points."), {setName(m_slot), std::to_string(set().count())});
+  update.message = filled(say(SLX_TR("%s is back as it was: %d points.")),
+                          {setName(m_slot), std::to_string(set().count())});
   return update;
 }
 

@@ -9,6 +9,7 @@
 #include "core/math/DataSet.h"
 #include "core/math/RegressionFit.h"
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/speech/Translator.h"
 
 namespace sonalyx {
@@ -50,9 +51,9 @@ struct SamplingResult {
 class DataPageSession {
  public:
   // What the f(x) box shows when the set did not come from an expression.
-  static constexpr const char* kUserLabel = "user";
-  static constexpr const char* kClearLabel = "clear";
-  static constexpr const char* kFilePrefix = "file: ";
+  static constexpr const char* kUserLabel = SLX_TR("user");
+  static constexpr const char* kClearLabel = SLX_TR("clear");
+  static constexpr const char* kFilePrefix = SLX_TR("file: ");
 
   // `slot` is DataSet::Data1 or DataSet::Data2.
   DataPageSession(std::array<DataSet, 4>& slots, std::size_t slot, const SettingsStore& store,

@@ -68,7 +68,7 @@ EvaluatorEntry EvaluatorSession::enter(const std::string& text) {
     if (!substituteVariables(expression, m_variables)) {
       shown.resultText = translate(kCircularVariables);
     } else if (evaluate(expression, value, error)) {
-      shown.resultText = formatNumber(value, "%.14g");
+      shown.resultText = numberForPerson(formatNumber(value, "%.14g"), m_translator);
     } else {
       shown.resultText = error;
     }

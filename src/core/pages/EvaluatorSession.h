@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/pages/EntryHistory.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/speech/Translator.h"
 
 namespace sonalyx {
@@ -38,10 +39,10 @@ class EvaluatorSession {
  public:
   using Evaluate = std::function<bool(const std::string&, double&, std::string&)>;
 
-  static constexpr const char* kExpressionLabel = "Expression : ";
-  static constexpr const char* kResultLabel = "Result : ";
-  static constexpr const char* kInvalidEntry = "Invalid entry.";
-  static constexpr const char* kCircularVariables = "A variable refers to itself.";
+  static constexpr const char* kExpressionLabel = SLX_TR("Expression : ");
+  static constexpr const char* kResultLabel = SLX_TR("Result : ");
+  static constexpr const char* kInvalidEntry = SLX_TR("Invalid entry.");
+  static constexpr const char* kCircularVariables = SLX_TR("A variable refers to itself.");
   // A list box holds this many lines; the oldest goes when it is full.
   static constexpr std::size_t kListCapacity = 32767;
 

@@ -6,6 +6,7 @@
 
 #include "core/engines/MatrixEngine.h"
 #include "core/pages/EntryHistory.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/speech/Translator.h"
 
 namespace sonalyx {
@@ -37,8 +38,8 @@ struct MatrixRecall {
 // through the matrix engine, the last answer and the history.
 class MatrixSession {
  public:
-  static constexpr const char* kEditLabel = "Matrix Expression:";
-  static constexpr const char* kInvalidExpression = "Error: Invalid matrix expression.";
+  static constexpr const char* kEditLabel = SLX_TR("Matrix Expression:");
+  static constexpr const char* kInvalidExpression = SLX_TR("Error: Invalid matrix expression.");
 
   explicit MatrixSession(Translator translator = {});
 

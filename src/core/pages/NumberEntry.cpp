@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/DecimalText.h"
 
 namespace sonalyx::entry {
@@ -48,7 +49,7 @@ std::string rangeText(const Translator& translate, const std::string& english, l
 }
 
 std::string notANumberText(const Translator& translate, const std::string& fieldName) {
-  std::string text = translateWith(translate, "%s must be a number.");
+  std::string text = translateWith(translate, SLX_TR("%s must be a number."));
   replaceFirst(text, "%s", translateWith(translate, fieldName));
   return text;
 }

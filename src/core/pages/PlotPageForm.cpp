@@ -3,14 +3,16 @@
 #include "core/limits/Limits.h"
 #include "core/pages/NumberEntry.h"
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
 
 namespace {
 
-constexpr const char* kFieldNames[] = {"Start", "Finish", "Number of points", "X min", "X max",
-                                       "Y min", "Y max"};
+constexpr const char* kFieldNames[] = {SLX_TR("Start"), SLX_TR("Finish"), SLX_TR("Number of points"),
+                                       SLX_TR("X min"), SLX_TR("X max"),  SLX_TR("Y min"),
+                                       SLX_TR("Y max")};
 
 // The fewest points a function is sampled at: a line needs two.
 constexpr long long kFewestPoints = 2;
@@ -22,11 +24,11 @@ struct Pair {
 };
 
 constexpr Pair kDomain{PlotPageForm::Start, PlotPageForm::Finish,
-                       "Invalid function domain. Start must be less than Finish."};
+                       SLX_TR("Invalid function domain. Start must be less than Finish.")};
 constexpr Pair kXRange{PlotPageForm::XMin, PlotPageForm::XMax,
-                       "Invalid graph X range. X min must be less than X max."};
+                       SLX_TR("Invalid graph X range. X min must be less than X max.")};
 constexpr Pair kYRange{PlotPageForm::YMin, PlotPageForm::YMax,
-                       "Invalid graph Y range. Y min must be less than Y max."};
+                       SLX_TR("Invalid graph Y range. Y min must be less than Y max.")};
 
 std::optional<long long> acceptedPoints(const std::string& text) {
   const auto points = entry::wholeNumber(text);
@@ -70,8 +72,9 @@ std::optional<FieldRefusal> PlotPageForm::check(const Translator& translate) con
   };
   if (auto refusal = checkPair(kDomain)) return refusal;
   if (!acceptedPoints(text[Points])) {
-    return FieldRefusal{Points, entry::rangeText(translate, "The number of points must be from %d to %d.",
-                                                 kFewestPoints, static_cast<long long>(limits::kMostPoints))};
+    return FieldRefusal{Points,
+                        entry::rangeText(translate, SLX_TR("The number of points must be from %d to %d."),
+                                         kFewestPoints, static_cast<long long>(limits::kMostPoints))};
   }
   if (auto refusal = checkPair(kXRange)) return refusal;
   return checkPair(kYRange);

@@ -4,6 +4,7 @@
 
 #include "core/graph/GraphTicks.h"
 #include "core/pages/NumberEntry.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
@@ -20,6 +21,7 @@ void replaceFirst(std::string& text, const std::string& marker, const std::strin
   if (const auto at = text.find(marker); at != std::string::npos) text.replace(at, marker.size(), value);
 }
 
+// A refusal names the limits as they are typed into the field, with the point.
 std::string inchesRange(const Translator& translate, const std::string& english, double most) {
   std::string text = translateWith(translate, english);
   replaceFirst(text, "%s", formatNumber(PrintSetupForm::kSmallestInches, "%.15g"));
@@ -54,31 +56,32 @@ std::optional<int> PrintSetupForm::acceptedCopies() const {
 std::optional<FieldRefusal> PrintSetupForm::check(const Translator& translate) const {
   if (!acceptedWidth()) {
     return FieldRefusal{
-        Width,
-        inchesRange(translate, "The width must be from %s to %s inches, the page's width.", widestInches())};
+        Width, inchesRange(translate, SLX_TR("The width must be from %s to %s inches, the page's width."),
+                           widestInches())};
   }
   if (!acceptedHeight()) {
-    return FieldRefusal{Height,
-                        inchesRange(translate, "The height must be from %s to %s inches, the page's height.",
-                                    tallestInches())};
+    return FieldRefusal{
+        Height, inchesRange(translate, SLX_TR("The height must be from %s to %s inches, the page's height."),
+                            tallestInches())};
   }
   if (!acceptedCopies()) {
     return FieldRefusal{
-        Copies, entry::rangeText(translate, "The number of copies must be from %d to %d.", 1, kMostCopies)};
+        Copies,
+        entry::rangeText(translate, SLX_TR("The number of copies must be from %d to %d."), 1, kMostCopies)};
   }
   return std::nullopt;
 }
 
 std::string PrintSetupForm::sizeLine(const Translator& translate, double widthInches, double heightInches) {
-  std::string text = translateWith(translate, "%.1f x %.1f inches");
-  replaceFirst(text, "%.1f", formatNumber(widthInches, "%.1f"));
-  replaceFirst(text, "%.1f", formatNumber(heightInches, "%.1f"));
+  std::string text = translateWith(translate, SLX_TR("%.1f x %.1f inches"));
+  replaceFirst(text, "%.1f", numberForPerson(formatNumber(widthInches, "%.1f"), translate));
+  replaceFirst(text, "%.1f", numberForPerson(formatNumber(heightInches, "%.1f"), translate));
   return text;
 }
 
 std::string PrintSetupForm::yAxisLine(const Translator& translate, double labelFactor) {
-  std::string text = translateWith(translate, "y-axis times %s");
-  replaceFirst(text, "%s", formatNumber(yAxisMultiplier(labelFactor), "%.15g"));
+  std::string text = translateWith(translate, SLX_TR("y-axis times %s"));
+  replaceFirst(text, "%s", numberForPerson(formatNumber(yAxisMultiplier(labelFactor), "%.15g"), translate));
   return text;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/pages/NumberEntry.h"
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -22,9 +23,9 @@ SpeechPageForm SpeechPageForm::fromSettings(const SettingsStore& store) {
 
 std::optional<FieldRefusal> SpeechPageForm::check(const Translator& translate) const {
   if (acceptedDecimals(decimals)) return std::nullopt;
-  return FieldRefusal{Decimals,
-                      entry::rangeText(translate, "The number of decimal places must be from %d to %d.",
-                                       kFewestDecimals, kMostDecimals)};
+  return FieldRefusal{
+      Decimals, entry::rangeText(translate, SLX_TR("The number of decimal places must be from %d to %d."),
+                                 kFewestDecimals, kMostDecimals)};
 }
 
 void SpeechPageForm::storeAccepted(const SettingsStore& store) const {

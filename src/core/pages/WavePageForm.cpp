@@ -2,6 +2,7 @@
 
 #include "core/pages/NumberEntry.h"
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 
 namespace sonalyx {
@@ -28,11 +29,11 @@ WavePageForm WavePageForm::fromSettings(const SettingsStore& store) {
 std::optional<FieldRefusal> WavePageForm::check(const Translator& translate) const {
   if (tickControlsEnabled() && !acceptedTicks(tickCount)) {
     return FieldRefusal{TickCount,
-                        entry::rangeText(translate, "The number of tick marks must be from %d to %d.",
+                        entry::rangeText(translate, SLX_TR("The number of tick marks must be from %d to %d."),
                                          kFewestTicks, kMostTicks)};
   }
   if (thresholdEnabled() && !entry::realNumber(threshold))
-    return FieldRefusal{Threshold, entry::notANumberText(translate, "Y Threshold Level")};
+    return FieldRefusal{Threshold, entry::notANumberText(translate, SLX_TR("Y Threshold Level"))};
   return std::nullopt;
 }
 

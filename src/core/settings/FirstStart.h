@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -12,6 +13,7 @@ namespace sonalyx {
 bool isFirstStart(const SettingsStore& store);
 
 // The one sentence said at a first start.
-inline constexpr char kFirstStartSentence[] = "Self-voicing is on; Control+Q switches it off and on again.";
+inline constexpr char kFirstStartSentence[] =
+    SLX_TR("Self-voicing is on; Control+Q switches it off and on again.");
 
 }  // namespace sonalyx

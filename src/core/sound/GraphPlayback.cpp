@@ -9,12 +9,13 @@
 #include "core/sound/PlayTimeLimit.h"
 #include "core/sound/PointStepping.h"
 #include "core/speech/CoordinatePhrase.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
 namespace {
 
-constexpr char kEmpty[] = "The data set is empty.";
+constexpr char kEmpty[] = SLX_TR("The data set is empty.");
 
 }  // namespace
 
@@ -104,7 +105,7 @@ PlaybackAction GraphPlayback::run(PlaybackCommand command, std::int32_t cursor) 
       const bool forward = command == PlaybackCommand::NextPoint;
       const PointStep step =
           singlePointStep(*m_source, cursor, forward ? StepDirection::Forward : StepDirection::Back, filter);
-      return stepped(step.cursor, step.sound, forward ? "Last point." : "First point.");
+      return stepped(step.cursor, step.sound, forward ? SLX_TR("Last point.") : SLX_TR("First point."));
     }
     case PlaybackCommand::FirstPoint:
       return pointAt(0);
@@ -115,30 +116,30 @@ PlaybackAction GraphPlayback::run(PlaybackCommand command, std::int32_t cursor) 
       const bool maximum = command == PlaybackCommand::NextMaximum;
       const CursorMove move =
           extremumMove(*m_source, cursor, maximum ? Extremum::Maximum : Extremum::Minimum, filter);
-      return swept(move, m_store.GetPlayTicks(), maximum ? "No further maximum." : "No further minimum.",
-                   cursor);
+      return swept(move, m_store.GetPlayTicks(),
+                   maximum ? SLX_TR("No further maximum.") : SLX_TR("No further minimum."), cursor);
     }
     case PlaybackCommand::NextZero:
       return swept(crossingMove(CrossingCommand::NextAxis, *m_source, *m_source, cursor, filter), false,
-                   "No further crossing of the x-axis.", cursor);
+                   SLX_TR("No further crossing of the x-axis."), cursor);
     case PlaybackCommand::PreviousZero:
       return swept(crossingMove(CrossingCommand::PreviousAxis, *m_source, *m_source, cursor, filter), false,
-                   "No earlier crossing of the x-axis.", cursor);
+                   SLX_TR("No earlier crossing of the x-axis."), cursor);
     case PlaybackCommand::NextCurveCrossing: {
       // The sum and difference share data set 1's x, so its indices serve them too.
       const std::size_t slot = static_cast<std::size_t>(m_source - m_slots.data());
       const DataSet& other = m_slots[slot == 0 ? 1 : 0];
       const DataSet& first = slot == 1 ? m_slots[1] : m_slots[0];
       if (!other.hasData()) {
-        action.speech = say("Data set 2 is empty.");
-        if (slot == 1) action.speech = say("Data set 1 is empty.");
+        action.speech = say(SLX_TR("Data set 2 is empty."));
+        if (slot == 1) action.speech = say(SLX_TR("Data set 1 is empty."));
         return action;
       }
       const CursorSearch search = [&](std::int32_t c) { return nextCurveCrossing(first, other, c); };
       const CursorMove move = driveCrossingSearch(cursor, m_source->count(), search, [&](std::int32_t i) {
         return isHeardPoint(*m_source, i, filter);
       });
-      PlaybackAction found = swept(move, false, "No further crossing of the two data sets.", cursor);
+      PlaybackAction found = swept(move, false, SLX_TR("No further crossing of the two data sets."), cursor);
       found.focusGraph = move.sweep.has_value();
       return found;
     }

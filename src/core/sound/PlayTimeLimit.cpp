@@ -1,6 +1,7 @@
 #include "core/sound/PlayTimeLimit.h"
 
 #include "core/limits/Limits.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -9,7 +10,7 @@ bool playTimeAllowed(long long seconds) {
 }
 
 std::string playTimeLimitText(const Translator& translate) {
-  std::string text = translateWith(translate, "The play time must be from %d to %d seconds.");
+  std::string text = translateWith(translate, SLX_TR("The play time must be from %d to %d seconds."));
   for (const auto value : {limits::kShortestPlayTime, limits::kLongestPlayTime}) {
     if (const auto at = text.find("%d"); at != std::string::npos) text.replace(at, 2, std::to_string(value));
   }

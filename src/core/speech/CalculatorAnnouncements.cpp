@@ -3,13 +3,16 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kNumberBases = {"hexadecimal.", "decimal.", "octal.", "binary."};
-constexpr std::array<std::string_view, 3> kAngleModes = {"degrees.", "radians.", "grad."};
+constexpr std::array<std::string_view, 4> kNumberBases = {SLX_TR("hexadecimal."), SLX_TR("decimal."),
+                                                          SLX_TR("octal."), SLX_TR("binary.")};
+constexpr std::array<std::string_view, 3> kAngleModes = {SLX_TR("degrees."), SLX_TR("radians."),
+                                                         SLX_TR("grad.")};
 
 template <std::size_t N>
 std::string_view pick(const std::array<std::string_view, N>& words, int index, const char* what) {

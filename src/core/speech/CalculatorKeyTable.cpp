@@ -4,6 +4,7 @@
 #include <span>
 
 #include "core/speech/CalculatorKeyIds.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -17,8 +18,11 @@ struct KeyEntry {
 
 // "<" and an em dash; the plain "<-" of a keyboard reads badly.
 constexpr KeyEntry kTopRow[] = {
-    {kKeyFixedExponent, "F-E", ""}, {kKeyEnterExponent, "EE", ""}, {kKeyBackspace, "<\u2014", "backspace"},
-    {kKeyClearEntry, "CE", ""},     {kKeyClear, "C", ""},
+    {kKeyFixedExponent, "F-E", ""},
+    {kKeyEnterExponent, "EE", ""},
+    {kKeyBackspace, "<\u2014", SLX_TR("backspace")},
+    {kKeyClearEntry, "CE", ""},
+    {kKeyClear, "C", ""},
 };
 
 // "pie" makes speech engines say the letter's name rather than "pee".
@@ -34,43 +38,43 @@ constexpr KeyEntry kMainBlock[] = {
     {kKeyXor, "xor", ""},
     {kKeyNot, "not", ""},
     {kKeyMod, "mod", ""},
-    {kKeyLeftShift, "lsh", "left shift"},
+    {kKeyLeftShift, "lsh", SLX_TR("left shift")},
     {kKeySin, "sin", ""},
     {kKeyCos, "cos", ""},
     {kKeyTan, "tan", ""},
-    {kKeyExp, "e^x", "e to the x"},
+    {kKeyExp, "e^x", SLX_TR("e to the x")},
     {kKeyLn, "ln", ""},
     {kKeyLog, "log", ""},
     {kKeySquare, "X\u00b2", ""},
     {kKeyCube, "X\u00b3", ""},
-    {kKeyPower, "x^y", "x to the power y"},
-    {kKeySquareRoot, "sqrt", "square root"},
-    {kKeyReciprocal, "1/x", "one over x"},
-    {kKeyFactorial, "n!", "n factorial"},
+    {kKeyPower, "x^y", SLX_TR("x to the power y")},
+    {kKeySquareRoot, "sqrt", SLX_TR("square root")},
+    {kKeyReciprocal, "1/x", SLX_TR("one over x")},
+    {kKeyFactorial, "n!", SLX_TR("n factorial")},
     {kKeyDigit7, "7", ""},
     {kKeyDigit4, "4", ""},
     {kKeyDigit1, "1", ""},
-    {kKeyChangeSign, "+/-", "plus minus"},
+    {kKeyChangeSign, "+/-", SLX_TR("plus minus")},
     {kKeyOpenParen, "(", ""},
-    {kKeyMemoryStore, "MS", "memory store"},
+    {kKeyMemoryStore, "MS", SLX_TR("memory store")},
     {kKeyDigit8, "8", ""},
     {kKeyDigit5, "5", ""},
     {kKeyDigit2, "2", ""},
     {kKeyDigit0, "0", ""},
     {kKeyCloseParen, ")", ""},
-    {kKeyMemoryPlus, "M+", "memory plus"},
+    {kKeyMemoryPlus, "M+", SLX_TR("memory plus")},
     {kKeyDigit9, "9", ""},
     {kKeyDigit6, "6", ""},
     {kKeyDigit3, "3", ""},
     {kKeyPoint, ".", ""},
-    {kKeyPi, "\u03c0", "pie"},
-    {kKeyMemoryClear, "MC", "memory clear"},
+    {kKeyPi, "\u03c0", SLX_TR("pie")},
+    {kKeyMemoryClear, "MC", SLX_TR("memory clear")},
     {kKeyDivide, "\u00f7", ""},
-    {kKeyTimes, "x", "times"},
-    {kKeyMinus, "-", "minus"},
+    {kKeyTimes, "x", SLX_TR("times")},
+    {kKeyMinus, "-", SLX_TR("minus")},
     {kKeyPlus, "+", ""},
     {kKeyEquals, "=", ""},
-    {kKeyMemoryRecall, "MR", "memory recall"},
+    {kKeyMemoryRecall, "MR", SLX_TR("memory recall")},
 };
 
 static_assert(std::size(kTopRow) == CalculatorKeyTable::kTopRowSize);

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/FPRounder.h"
 #include "core/utility/NumberFormat.h"
 
@@ -43,17 +44,19 @@ bool isZeroText(std::string_view text) {
 }  // namespace
 
 std::string coordinatePhrase(double x, double y, int numDec, const Translator& translate) {
-  return "x = " + spokenValue(x, numDec, translate) + ", y = " + spokenValue(y, numDec, translate);
+  return fillPlaceholders(translateWith(translate, SLX_TR("x = %1, y = %2")),
+                          {spokenValue(x, numDec, translate), spokenValue(y, numDec, translate)});
 }
 
 std::string powerOfTenWords(const std::string& mantissa, int exponent, const Translator& translate) {
-  std::string words = mantissa + ' ' + translateWith(translate, "times ten to the") + ' ';
-  if (exponent < 0) words += translateWith(translate, "minus") + ' ';
+  std::string words = mantissa + ' ' + translateWith(translate, SLX_TR("times ten to the")) + ' ';
+  if (exponent < 0) words += translateWith(translate, SLX_TR("minus")) + ' ';
   return words + std::to_string(exponent < 0 ? -exponent : exponent);
 }
 
 std::string spokenValue(double value, int numDec, const Translator& translate) {
-  if (std::isnan(value) || std::isinf(value)) return formatNumber(value, "%g");
+  if (std::isnan(value)) return translateWith(translate, SLX_TR("Error"));
+  if (std::isinf(value)) return (value < 0 ? "-" : "") + translateWith(translate, SLX_TR("Infinity"));
   if (value == 0.0) return "0";
   const int decimals = std::clamp(numDec, 0, kMostSpokenDecimals);
   const double magnitude = std::fabs(value);
@@ -67,7 +70,7 @@ std::string spokenValue(double value, int numDec, const Translator& translate) {
       mantissa.resize(mantissa.size() - 1);
       ++exponent;
     }
-    return powerOfTenWords(mantissa, exponent, translate);
+    return powerOfTenWords(numberForPerson(mantissa, translate), exponent, translate);
   }
   const std::string text = shortest(value, std::chars_format::fixed);
   std::string spoken = roundedText(text, decimals);
@@ -76,7 +79,7 @@ std::string spokenValue(double value, int numDec, const Translator& translate) {
     const int leadingZeros = -static_cast<int>(std::floor(std::log10(magnitude))) - 1;
     spoken = roundedText(text, leadingZeros + std::max(decimals, 1));
   }
-  return spoken;
+  return numberForPerson(spoken, translate);
 }
 
 std::string pointPhrase(const DataPoint& point, std::uint32_t plotType, int numDec,

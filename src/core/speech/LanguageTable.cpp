@@ -97,6 +97,10 @@ int langIdForLocale(std::string_view localeName) {
   return kEnglishUnitedStates;
 }
 
+std::string_view decimalSign(Language language) {
+  return language == Language::English ? "." : ",";
+}
+
 int userDefaultLangId(const EnvironmentLookup& lookup) {
   const EnvironmentLookup read = lookup ? lookup : [](const std::string& name) {
     const char* value = std::getenv(name.c_str());

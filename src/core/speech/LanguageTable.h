@@ -29,6 +29,10 @@ Language languageForCode(std::string_view code);
 // Whether `code` names one of the languages above.
 bool isLanguageCode(std::string_view code);
 
+// The decimal sign a language writes numbers for people with: "." in English, ","
+// in the others.
+std::string_view decimalSign(Language language);
+
 // Reads an environment variable; returns "" when it is not set.
 using EnvironmentLookup = std::function<std::string(const std::string& name)>;
 

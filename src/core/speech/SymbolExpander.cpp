@@ -1,15 +1,17 @@
 #include "core/speech/SymbolExpander.h"
 
 #include <utility>
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
 namespace {
 
 constexpr SymbolWords kExpressionSymbols[] = {
-    {"-", " minus "},           {"+", " plus "},       {"*", " times "},       {"/", " divide "},
-    {"[", " begin matrix "},    {"]", " end matrix "}, {",", " column "},      {";", " row "},
-    {"^", " to the power of "}, {"(", " open paren "}, {")", " close paren "}, {"", ""},
+    {"-", SLX_TR(" minus ")},      {"+", SLX_TR(" plus ")},         {"*", SLX_TR(" times ")},
+    {"/", SLX_TR(" divide ")},     {"[", SLX_TR(" begin matrix ")}, {"]", SLX_TR(" end matrix ")},
+    {",", SLX_TR(" column ")},     {";", SLX_TR(" row ")},          {"^", SLX_TR(" to the power of ")},
+    {"(", SLX_TR(" open paren ")}, {")", SLX_TR(" close paren ")},  {"", ""},
 };
 
 // Bytes of the UTF-8 character that starts at `at`. A byte that does not start a
@@ -62,14 +64,16 @@ void SymbolExpander::BuildSymbolMap() {
     if (row.symbol.empty() && row.spoken.empty()) break;
     m_symbolMap.emplace(std::string(row.symbol), translateWith(m_translator, std::string(row.spoken)));
   }
-  m_timesTenTo = ' ' + translateWith(m_translator, "times ten to the") + ' ';
-  m_minus = translateWith(m_translator, "minus") + ' ';
+  m_timesTenTo = ' ' + translateWith(m_translator, SLX_TR("times ten to the")) + ' ';
+  m_minus = translateWith(m_translator, SLX_TR("minus")) + ' ';
+  m_decimalSign = decimalSignOf(m_translator);
 }
 
 void SymbolExpander::ExpandSymbols(std::string& text) const {
   std::string expanded;
   expanded.reserve(text.size() * 2);
   std::size_t i = 0;
+  int matrixDepth = 0;
   while (i < text.size()) {
     if (const std::size_t exponent = m_symbolMap.empty() ? 0 : exponentLength(text, i); exponent > 0) {
       // 1.5e-007 is "1.5 times ten to the minus 7", not "1.5e minus 007".
@@ -80,6 +84,18 @@ void SymbolExpander::ExpandSymbols(std::string& text) const {
       while (digits + 1 < i + exponent && text[digits] == '0') ++digits;
       expanded.append(text, digits, i + exponent - digits);
       i += exponent;
+      continue;
+    }
+    // A number is heard with the language's decimal sign, which the voice reads as
+    // such: a point between digits becomes it, and where it is the comma, a comma
+    // between digits outside a matrix's brackets is one (a shown result, "0,5").
+    if (text[i] == '[') ++matrixDepth;
+    if (text[i] == ']' && matrixDepth > 0) --matrixDepth;
+    const bool betweenDigits = i > 0 && isDigit(text[i - 1]) && i + 1 < text.size() && isDigit(text[i + 1]);
+    if (betweenDigits && m_decimalSign == "," && !m_symbolMap.empty() &&
+        (text[i] == '.' || (text[i] == ',' && matrixDepth == 0))) {
+      expanded += m_decimalSign;
+      ++i;
       continue;
     }
     const std::size_t length = characterLength(text, i);

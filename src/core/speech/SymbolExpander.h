@@ -34,7 +34,8 @@ class SymbolExpander {
 
   // Replaces every character (a UTF-8 code point) of `text` that is a symbol of
   // the map with its words, and reads the exponent of a number ("1.5e-007") as
-  // "1.5 times ten to the minus 7"; everything else is kept.
+  // "1.5 times ten to the minus 7" (with the language's decimal sign: "1,5" in
+  // French); everything else is kept.
   void ExpandSymbols(std::string& text) const;
 
   const std::map<std::string, std::string>& symbolMap() const { return m_symbolMap; }
@@ -45,6 +46,7 @@ class SymbolExpander {
   std::map<std::string, std::string> m_symbolMap;
   std::string m_timesTenTo;  // " times ten to the ", translated
   std::string m_minus;       // "minus ", translated
+  std::string m_decimalSign = ".";
 };
 
 }  // namespace sonalyx

@@ -39,6 +39,33 @@ std::optional<std::size_t> findVoice(const std::vector<std::string>& voices, con
   return std::nullopt;
 }
 
+bool speaksLanguage(const std::string& voiceLanguage, const std::string& language) {
+  if (language.empty()) return false;
+  const std::string tag = asciiLower(voiceLanguage);
+  const std::string code = asciiLower(language);
+  return tag.compare(0, code.size(), code) == 0 &&
+         (tag.size() == code.size() || tag[code.size()] == '-' || tag[code.size()] == '_');
+}
+
+std::size_t chooseVoiceForLanguage(const std::vector<std::string>& voices,
+                                   const std::vector<std::string>& languages, const std::string& name,
+                                   const std::string& language, std::size_t defaultIndex) {
+  const std::optional<std::size_t> named = findVoice(voices, name);
+  if (language.empty() || languages.size() != voices.size()) return named.value_or(defaultIndex);
+  const auto speaks = [&](std::size_t index) { return speaksLanguage(languages[index], language); };
+  if (named && speaks(*named)) return *named;
+  if (defaultIndex < voices.size() && speaks(defaultIndex)) return defaultIndex;
+  const std::string code = asciiLower(language);
+  std::optional<std::size_t> variant;
+  for (std::size_t i = 0; i < voices.size(); ++i) {
+    if (!speaks(i)) continue;
+    const std::string tag = asciiLower(languages[i]);
+    if (tag == code || tag == code + '-' + code || tag == code + '_' + code) return i;
+    if (!variant) variant = i;
+  }
+  return variant.value_or(named.value_or(defaultIndex));
+}
+
 std::size_t chooseVoice(const std::vector<std::string>& voices, const std::string& name,
                         std::size_t defaultIndex) {
   return findVoice(voices, name).value_or(defaultIndex);

@@ -19,4 +19,18 @@ std::optional<std::size_t> findVoice(const std::vector<std::string>& voices, con
 std::size_t chooseVoice(const std::vector<std::string>& voices, const std::string& name,
                         std::size_t defaultIndex);
 
+// Whether a voice's language tag ("fr-fr", "en_US", "sv") is of `language`, a
+// two-letter code ("fr"), whatever its country or variant.
+bool speaksLanguage(const std::string& voiceLanguage, const std::string& language);
+
+// The voice that speaks the program's `language` ("fr"), `languages` giving each
+// voice's language tag: the voice `name` selects when it speaks that language, else
+// the default when it does, else the language's main voice ("fr", "fr-fr" before
+// "fr-be"), else the first voice of the language. When no voice speaks it, when the
+// engine cannot tell its voices' languages (`languages` of another size than
+// `voices`) or `language` is empty, as chooseVoice.
+std::size_t chooseVoiceForLanguage(const std::vector<std::string>& voices,
+                                   const std::vector<std::string>& languages, const std::string& name,
+                                   const std::string& language, std::size_t defaultIndex);
+
 }  // namespace sonalyx

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/speech/SpeechKind.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -18,7 +19,7 @@ enum class VoicingMode : std::uint32_t {
 
 // The choice's captions in the order above, in English (each its own translation key).
 inline constexpr std::array<std::string_view, 3> kVoicingModeCaptions{
-    "Speak everything", "Speak only what the screen reader cannot", "Automatic"};
+    SLX_TR("Speak everything"), SLX_TR("Speak only what the screen reader cannot"), SLX_TR("Automatic")};
 
 // The stored value; one the program does not know (a hand-edited file) is Automatic.
 VoicingMode voicingModeFromSetting(std::uint32_t value);

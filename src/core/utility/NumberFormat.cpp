@@ -108,6 +108,12 @@ std::string formatNumber(double value, std::string_view conversion) {
   return pad(std::move(body), c, true);
 }
 
+std::string withDecimalSign(std::string number, std::string_view sign) {
+  const std::size_t point = number.find('.');
+  if (point != std::string::npos) number.replace(point, 1, sign);
+  return number;
+}
+
 std::string formatG(double value, int precision) {
   return formatNumber(value, "%." + std::to_string(precision) + "g");
 }

@@ -14,6 +14,10 @@ namespace sonalyx {
 // Throws std::invalid_argument for any other conversion text.
 std::string formatNumber(double value, std::string_view conversion);
 
+// A number as formatNumber writes it with its decimal point replaced by `sign`
+// (the user's language's, "," in French): for what a person reads or hears only.
+std::string withDecimalSign(std::string number, std::string_view sign);
+
 // "%.<precision>g", the conversion used for spoken numbers and results.
 std::string formatG(double value, int precision);
 

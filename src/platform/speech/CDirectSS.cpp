@@ -2,6 +2,7 @@
 
 #include "core/settings/FirstStart.h"
 #include "core/speech/PronunciationLexicon.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/speech/VoiceChoice.h"
 #include "core/speech/VoicingMode.h"
 #include "core/utility/NumberFormat.h"
@@ -11,10 +12,12 @@ namespace sonalyx {
 
 namespace {
 
-std::string describe(const SpeechEngine& engine, SpeechSetting setting, const char* label) {
+// A setting's value and its range: "50 (0 to 100)".
+std::string describe(const SpeechEngine& engine, SpeechSetting setting, const Translator& translate) {
   const EngineRange span = engine.range(setting);
-  return std::string(label) + " " + formatNumber(engine.get(setting), "%.10g") + " (" +
-         formatNumber(span.minimum, "%.10g") + " to " + formatNumber(span.maximum, "%.10g") + ")";
+  return fillPlaceholders(translateWith(translate, SLX_TR("%1 (%2 to %3)")),
+                          {formatNumber(engine.get(setting), "%.10g"), formatNumber(span.minimum, "%.10g"),
+                           formatNumber(span.maximum, "%.10g")});
 }
 
 }  // namespace
@@ -36,6 +39,7 @@ CDirectSS& CDirectSS::instance() {
 bool CDirectSS::Create(std::unique_ptr<SpeechEngine> engine) {
   if (!engine) return false;
   m_engine = std::move(engine);
+  m_engine->useLanguage(m_language);
   ApplySettings();
   return true;
 }
@@ -97,11 +101,20 @@ void CDirectSS::Silence() {
   if (m_screenReader) m_screenReader->cancel();
 }
 
+void CDirectSS::setLanguage(const std::string& language, Translator translate) {
+  m_language = language;
+  m_translate = std::move(translate);
+  if (!m_engine) return;
+  m_engine->useLanguage(m_language);
+  SelectVoice(m_settings.GetVoice());
+}
+
 bool CDirectSS::SelectVoice(const std::string& name) {
   if (!m_engine) return false;
   const std::vector<std::string> voices = m_engine->voices();
   if (voices.empty()) return false;
-  m_engine->selectVoice(chooseVoice(voices, name, m_engine->defaultVoice()));
+  m_engine->selectVoice(
+      chooseVoiceForLanguage(voices, m_engine->voiceLanguages(), name, m_language, m_engine->defaultVoice()));
   return true;
 }
 
@@ -149,15 +162,19 @@ std::string CDirectSS::ShowAboutDialog() {
 
 std::string CDirectSS::ShowGeneralDialog() {
   if (!m_engine) return {};
-  return tell("Voice " + m_engine->currentVoice() + ", " + describe(*m_engine, SpeechSetting::Rate, "rate") +
-              ", " + describe(*m_engine, SpeechSetting::Pitch, "pitch") + ", " +
-              describe(*m_engine, SpeechSetting::Volume, "volume") + ".");
+  return tell(
+      fillPlaceholders(translateWith(m_translate, SLX_TR("Voice %1, rate %2, pitch %3, volume %4.")),
+                       {m_engine->currentVoice(), describe(*m_engine, SpeechSetting::Rate, m_translate),
+                        describe(*m_engine, SpeechSetting::Pitch, m_translate),
+                        describe(*m_engine, SpeechSetting::Volume, m_translate)}));
 }
 
 std::string CDirectSS::ShowLexiconDialog() {
   if (!m_engine) return {};
-  return tell(m_engine->description() + " pronounces words by the rules of voice " +
-              m_engine->currentVoice() + "; it has no user lexicon.");
+  return tell(fillPlaceholders(
+      translateWith(m_translate,
+                    SLX_TR("%1 pronounces words by the rules of voice %2; it has no user lexicon.")),
+      {m_engine->description(), m_engine->currentVoice()}));
 }
 
 }  // namespace sonalyx

@@ -7,6 +7,7 @@
 
 #include "core/settings/SettingsStore.h"
 #include "core/speech/SpeechKind.h"
+#include "core/speech/Translator.h"
 #include "core/speech/VoiceFilter.h"
 #include "platform/sound/OutputSequencer.h"
 #include "platform/speech/ScreenReader.h"
@@ -67,8 +68,15 @@ class CDirectSS {
   // The same even while disabled (everything is being silenced).
   void Silence();
 
-  // Picks the voice of exactly that name, else the first whose name contains it,
-  // else the engine's default. False without an engine or when it has no voices.
+  // The program's language ("fr"; empty: none in particular), which the voice
+  // speaks (see chooseVoiceForLanguage), and the translator of the words the
+  // engine's answers are made of. Re-selects the stored voice.
+  void setLanguage(const std::string& language, Translator translate = {});
+  const std::string& language() const { return m_language; }
+
+  // Picks the voice `name` selects (its exact name, else the first containing it)
+  // when it speaks the program's language, else the engine's voice for that
+  // language, else the engine's default. False without an engine or voices.
   bool SelectVoice(const std::string& name);
   // Percent of the engine's range (see EngineRange::fromPercent); false without an engine.
   bool SetRate(std::uint32_t percent);
@@ -96,6 +104,8 @@ class CDirectSS {
 
   SettingsStore m_settings;
   VoiceFilter m_filter;
+  std::string m_language;
+  Translator m_translate;
   bool m_enabled;
   std::unique_ptr<SpeechEngine> m_engine;
   std::unique_ptr<SpeechLog> m_log;

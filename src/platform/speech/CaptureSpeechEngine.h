@@ -32,6 +32,7 @@ class CaptureSpeechEngine : public SpeechEngine {
     EngineRange rate{0, 100};
     EngineRange pitch{0, 100};
     EngineRange volume{0, 100};
+    std::vector<std::string> languages{};  // one tag per name, or none
   };
 
   explicit CaptureSpeechEngine(Clock clock);
@@ -47,6 +48,7 @@ class CaptureSpeechEngine : public SpeechEngine {
   bool isSpeaking() const override { return false; }
   std::vector<std::string> voices() const override { return m_voices.names; }
   std::size_t defaultVoice() const override { return m_voices.defaultVoice; }
+  std::vector<std::string> voiceLanguages() const override { return m_voices.languages; }
   bool selectVoice(std::size_t index) override;
   std::string currentVoice() const override;
   EngineRange range(SpeechSetting setting) const override;

@@ -28,6 +28,7 @@ struct EspeakLibrary {
   std::string version;
   std::vector<std::string> voiceNames;
   std::vector<std::string> voiceFiles;
+  std::vector<std::string> voiceLanguages;
   std::size_t defaultVoice = 0;
   const void* configuredFor = nullptr;  // the engine whose voice and settings are loaded
 
@@ -47,6 +48,9 @@ struct EspeakLibrary {
       for (; *list != nullptr; ++list) {
         voiceNames.emplace_back((*list)->name != nullptr ? (*list)->name : "");
         voiceFiles.emplace_back((*list)->identifier != nullptr ? (*list)->identifier : "");
+        // A priority byte, then the voice's first language tag.
+        const char* languages = (*list)->languages;
+        voiceLanguages.emplace_back(languages != nullptr && languages[0] != 0 ? languages + 1 : "");
       }
     }
     // espeak-ng's own choice for English is the default voice.
@@ -183,6 +187,10 @@ bool EspeakSpeechEngine::isSpeaking() const {
 
 std::vector<std::string> EspeakSpeechEngine::voices() const {
   return EspeakLibrary::get().voiceNames;
+}
+
+std::vector<std::string> EspeakSpeechEngine::voiceLanguages() const {
+  return EspeakLibrary::get().voiceLanguages;
 }
 
 std::size_t EspeakSpeechEngine::defaultVoice() const {

@@ -1,4 +1,5 @@
 #include "platform/speech/SelfVoicing.h"
+#include "core/speech/TranslationMarker.h"
 
 namespace sonalyx {
 
@@ -6,9 +7,9 @@ void setSelfVoicing(bool on, const SettingsStore& settings, CDirectSS& voice, co
   settings.SetTtsOn(on);
   if (on) {
     voice.setEnabled(true);
-    voice.Speak(SpeechKind::Content, translateWith(translate, "Self-voicing activated."));
+    voice.Speak(SpeechKind::Content, translateWith(translate, SLX_TR("Self-voicing activated.")));
   } else {
-    voice.Speak(SpeechKind::Content, translateWith(translate, "Self-voicing deactivated."));
+    voice.Speak(SpeechKind::Content, translateWith(translate, SLX_TR("Self-voicing deactivated.")));
     voice.setEnabled(false);
   }
 }

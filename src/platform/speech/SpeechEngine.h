@@ -50,6 +50,12 @@ class SpeechEngine {
   // The installed voices in the engine's order, and which is its default.
   virtual std::vector<std::string> voices() const = 0;
   virtual std::size_t defaultVoice() const = 0;
+  // Each voice's language tag ("fr-fr", "sv_SE"), in the order of voices(); empty
+  // when the engine cannot tell.
+  virtual std::vector<std::string> voiceLanguages() const = 0;
+  // Lets an engine that lists only the voices of one language (the system's
+  // service) list those of `language` ("fr"); the others list all of theirs anyway.
+  virtual void useLanguage(const std::string& /*language*/) {}
   virtual bool selectVoice(std::size_t index) = 0;
   // The voice in use (empty when there is none).
   virtual std::string currentVoice() const = 0;

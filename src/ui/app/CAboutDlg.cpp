@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CAccessibilityHooks.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/ProductInfo.h"
@@ -67,13 +68,13 @@ CAboutDlg::CAboutDlg(QWidget* parent) : QDialog(parent) {
   bold.setBold(true);
   m_product->setFont(bold);
   addLine(text, Translate("with Sonitrace Technology"), this);
-  addLine(
-      text,
-      joinedTranslations({"The Sonalyx is a scientific graphing ",
-                          "calculator.  It provides standard functions for computation and two ",
-                          "dimensional graphing of mathematical expressions.  The Program is ",
-                          "entirely self-voicing and provides auditory response for program navigation."}),
-      this);
+  addLine(text,
+          joinedTranslations(
+              {SLX_TR("The Sonalyx is a scientific graphing "),
+               SLX_TR("calculator.  It provides standard functions for computation and two "),
+               SLX_TR("dimensional graphing of mathematical expressions.  The Program is "),
+               SLX_TR("entirely self-voicing and provides auditory response for program navigation.")}),
+          this);
   addLine(text, versionLine(), this);
   addLine(text, licenceLine(), this);
   addLine(text, librariesLine(), this);
@@ -87,9 +88,9 @@ CAboutDlg::CAboutDlg(QWidget* parent) : QDialog(parent) {
   text->addWidget(m_mail);
 
   addLine(text,
-          joinedTranslations({"This program supplied as is.  No implied or ",
-                              "expressed warranty exists for the performance ",
-                              "and function of this software."}),
+          joinedTranslations({SLX_TR("This program supplied as is.  No implied or "),
+                              SLX_TR("expressed warranty exists for the performance "),
+                              SLX_TR("and function of this software.")}),
           this);
 
   m_ok = new QPushButton(Translate("OK"), this);

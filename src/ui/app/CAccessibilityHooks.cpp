@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CGraphCalcApp.h"
 
 namespace sonalyx::ui {
@@ -19,39 +20,39 @@ namespace {
 const char* roleWord(QAccessible::Role role) {
   switch (role) {
     case QAccessible::Button:
-      return "button";
+      return SLX_TR("button");
     case QAccessible::CheckBox:
-      return "check box";
+      return SLX_TR("check box");
     case QAccessible::RadioButton:
-      return "radio button";
+      return SLX_TR("radio button");
     case QAccessible::EditableText:
-      return "edit";
+      return SLX_TR("edit");
     case QAccessible::ComboBox:
-      return "combo box";
+      return SLX_TR("combo box");
     case QAccessible::List:
-      return "list";
+      return SLX_TR("list");
     case QAccessible::ListItem:
-      return "list item";
+      return SLX_TR("list item");
     case QAccessible::Tree:
-      return "tree";
+      return SLX_TR("tree");
     case QAccessible::TreeItem:
-      return "tree item";
+      return SLX_TR("tree item");
     case QAccessible::Table:
-      return "table";
+      return SLX_TR("table");
     case QAccessible::Cell:
-      return "cell";
+      return SLX_TR("cell");
     case QAccessible::SpinBox:
-      return "spin box";
+      return SLX_TR("spin box");
     case QAccessible::Slider:
-      return "slider";
+      return SLX_TR("slider");
     case QAccessible::StaticText:
-      return "text";
+      return SLX_TR("text");
     case QAccessible::Link:
-      return "link";
+      return SLX_TR("link");
     case QAccessible::PageTab:
-      return "tab";
+      return SLX_TR("tab");
     case QAccessible::MenuItem:
-      return "menu item";
+      return SLX_TR("menu item");
     default:
       return nullptr;
   }
@@ -112,7 +113,8 @@ QString CAccessibilityHooks::describe(QObject* object) {
   if (const char* word = roleWord(iface->role())) parts << Translate(QString::fromLatin1(word));
   const QAccessible::State state = iface->state();
   QString value = iface->text(QAccessible::Value).trimmed();
-  if (value.isEmpty() && state.checkable) value = Translate(state.checked ? "checked" : "not checked");
+  if (value.isEmpty() && state.checkable)
+    value = state.checked ? Translate("checked") : Translate("not checked");
   if (!value.isEmpty() && value != name) parts << value;
   return parts.join(QStringLiteral(", "));
 }

@@ -456,7 +456,8 @@ void CChildFrame::OnSelfVoicing() {
 void CChildFrame::OnAutoReturn() {
   const bool on = !m_app.settings().GetIsAutoReturn();
   m_app.settings().SetIsAutoReturn(on);
-  voice::Speak(SpeechKind::Content, Translate(on ? "Auto return: enabled." : "Auto return: disabled."));
+  voice::Speak(SpeechKind::Content,
+               on ? Translate("Auto return: enabled.") : Translate("Auto return: disabled."));
 }
 
 void CChildFrame::redrawGraph() {

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "core/speech/LanguageTable.h"
+#include "core/speech/Translator.h"
 #include "platform/qt/speech/DesktopScreenReader.h"
 #include "platform/qt/speech/SystemSpeechEngine.h"
 #include "platform/sound/OutputSequencer.h"
@@ -77,6 +78,10 @@ bool CGraphCalcApp::InitInstance() {
   // The one voice, made once per process; its switch follows this run's settings.
   CDirectSS& voice = voice::device();
   voice.setSettings(m_settings);
+  // The voice speaks the program's language; the translator reaches whichever
+  // application object is current, as the voice outlives this one.
+  voice.setLanguage(std::string(languageCode(m_dictionary->language())),
+                    [](const std::string& english) { return Translate(english); });
   if (!voice.engine()) {
     registerSystemSpeechEngine();
     voice.Create(OutputSequencer::instance());
@@ -189,6 +194,10 @@ QString Translate(const char* english) {
 std::string Translate(const std::string& english) {
   const CGraphCalcApp* app = CGraphCalcApp::instance();
   return app ? app->dictionary().Translate(english) : english;
+}
+
+std::string DecimalSign() {
+  return decimalSignOf([](const std::string& english) { return Translate(english); });
 }
 
 }  // namespace sonalyx::ui

@@ -92,5 +92,7 @@ class CGraphCalcApp : public QObject {
 QString Translate(const QString& english);
 QString Translate(const char* english);
 std::string Translate(const std::string& english);
+// The decimal sign of the numbers the program shows and says ("," in French).
+std::string DecimalSign();
 
 }  // namespace sonalyx::ui

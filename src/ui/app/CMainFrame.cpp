@@ -55,8 +55,8 @@ CMainFrame::CMainFrame(CGraphCalcApp& app) : m_app(app) {
 
   // The frame's own menu until the child's menu bar replaces it.
   auto* frameMenu = new QMenuBar();
-  QMenu* file = frameMenu->addMenu(QStringLiteral("&File"));
-  file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
+  QMenu* file = frameMenu->addMenu(Translate("&File"));
+  file->addAction(Translate("E&xit"), this, &QWidget::close);
   setMenuBar(frameMenu);
 
   CAccessibilityHooks::setAccessibility(true);

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTranslator>
 
+#include "core/speech/Translator.h"
 #include "ui/app/ProgramFiles.h"
 
 namespace sonalyx::ui {
@@ -47,6 +48,10 @@ bool CTranslationDictionary::Load(const std::string& catalogue) {
 }
 
 void CTranslationDictionary::Lookup(const std::string& key, std::string& result) const {
+  if (key == kDecimalSignKey) {
+    result = decimalSign(m_language);
+    return;
+  }
   if (m_translator) {
     const QString found = m_translator->translate(kContext, key.c_str());
     // An unfinished entry is empty: the English text stands in rather than blanking it.

@@ -6,6 +6,7 @@
 
 #include "core/pages/CalculatorKeyboard.h"
 #include "core/speech/CalculatorKeyTable.h"
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CommandIds.h"
 #include "ui/app/CommandTable.h"
 #include "ui/app/MenuTranslation.h"
@@ -22,25 +23,27 @@ QString keyName(Qt::Key key, const Translator& translate) {
   if (key >= Qt::Key_F1 && key <= Qt::Key_F35) return QStringLiteral("F%1").arg(key - Qt::Key_F1 + 1);
   switch (key) {
     case Qt::Key_Escape:
-      return tr(translate, "Esc");
+      return tr(translate, SLX_TR("Esc"));
     case Qt::Key_Left:
-      return tr(translate, "Left");
+      return tr(translate, SLX_TR("Left"));
     case Qt::Key_Right:
-      return tr(translate, "Right");
+      return tr(translate, SLX_TR("Right"));
     case Qt::Key_Up:
-      return tr(translate, "Up");
+      return tr(translate, SLX_TR("Up"));
     case Qt::Key_Down:
-      return tr(translate, "Down");
+      return tr(translate, SLX_TR("Down"));
     case Qt::Key_PageUp:
-      return tr(translate, "Page Up");
+      return tr(translate, SLX_TR("Page Up"));
     case Qt::Key_PageDown:
-      return tr(translate, "Page Down");
+      return tr(translate, SLX_TR("Page Down"));
     case Qt::Key_Home:
-      return tr(translate, "Home");
+      return tr(translate, SLX_TR("Home"));
     case Qt::Key_End:
-      return tr(translate, "End");
+      return tr(translate, SLX_TR("End"));
     case Qt::Key_Tab:
-      return tr(translate, "Tab");
+      return tr(translate, SLX_TR("Tab"));
+    case Qt::Key_Space:
+      return tr(translate, SLX_TR("Space"));
     default:
       // Letters and digits stand for themselves.
       return QString(QChar(static_cast<char16_t>(key)));
@@ -54,17 +57,17 @@ QString modifierName(const char* english, const Translator& translate) {
 QString keysText(QKeyCombination keys, const Translator& translate) {
   QString text;
   const Qt::KeyboardModifiers mods = keys.keyboardModifiers();
-  if (mods.testFlag(Qt::ControlModifier)) text += modifierName("Ctrl", translate);
-  if (mods.testFlag(Qt::AltModifier)) text += modifierName("Alt", translate);
-  if (mods.testFlag(Qt::ShiftModifier)) text += modifierName("Shift", translate);
+  if (mods.testFlag(Qt::ControlModifier)) text += modifierName(SLX_TR("Ctrl"), translate);
+  if (mods.testFlag(Qt::AltModifier)) text += modifierName(SLX_TR("Alt"), translate);
+  if (mods.testFlag(Qt::ShiftModifier)) text += modifierName(SLX_TR("Shift"), translate);
   return text + keyName(keys.key(), translate);
 }
 
 // A key written as the Calculator's table writes it ("Ctrl+Shift+Delete", "Enter").
 QString calculatorKeysText(const std::string& keys, const Translator& translate) {
   static const std::map<std::string, const char*> kWords{
-      {"Ctrl", "Ctrl"},   {"Shift", "Shift"},         {"Delete", "Delete"},
-      {"Enter", "Enter"}, {"Backspace", "Backspace"},
+      {"Ctrl", SLX_TR("Ctrl")},   {"Shift", SLX_TR("Shift")},         {"Delete", SLX_TR("Delete")},
+      {"Enter", SLX_TR("Enter")}, {"Backspace", SLX_TR("Backspace")},
   };
   QStringList parts;
   for (const QString& part : QString::fromStdString(keys).split(QLatin1Char('+'), Qt::KeepEmptyParts)) {
@@ -124,23 +127,23 @@ bool isGraphCommand(int id) {
 const char* keyOnlyAction(int id) {
   switch (id) {
     case cmd::kStopPlaying:
-      return "Stops the sound of the graph.";
+      return SLX_TR("Stops the sound of the graph.");
     case cmd::kNextPoint:
-      return "Steps to the next point of the graph and says it.";
+      return SLX_TR("Steps to the next point of the graph and says it.");
     case cmd::kPreviousPoint:
-      return "Steps to the previous point of the graph and says it.";
+      return SLX_TR("Steps to the previous point of the graph and says it.");
     case cmd::kNextMaximum:
-      return "Steps to the next maximum of the graph.";
+      return SLX_TR("Steps to the next maximum of the graph.");
     case cmd::kNextMinimum:
-      return "Steps to the next minimum of the graph.";
+      return SLX_TR("Steps to the next minimum of the graph.");
     case cmd::kFirstPoint:
-      return "Goes to the first point of the graph.";
+      return SLX_TR("Goes to the first point of the graph.");
     case cmd::kLastPoint:
-      return "Goes to the last point of the graph.";
+      return SLX_TR("Goes to the last point of the graph.");
     case cmd::kCopyMatrix:
-      return "On the Matrix page: copies the matrix as a picture and as text.";
+      return SLX_TR("On the Matrix page: copies the matrix as a picture and as text.");
     case cmd::kPreviousZero:
-      return "Steps back to the previous place where the graph crosses the x-axis.";
+      return SLX_TR("Steps back to the previous place where the graph crosses the x-axis.");
     default:
       return nullptr;
   }
@@ -150,17 +153,17 @@ const char* keyOnlyAction(int id) {
 const char* calculatorCommandAction(int id) {
   switch (id) {
     case kCalcCommandSayDisplay:
-      return "Says the display.";
+      return SLX_TR("Says the display.");
     case kCalcCommandSayMemory:
-      return "Says the memory.";
+      return SLX_TR("Says the memory.");
     case kCalcCommandHyperbolic:
-      return "Ticks or clears Hyperbolic.";
+      return SLX_TR("Ticks or clears Hyperbolic.");
     case kCalcCommandInverse:
-      return "Ticks or clears Inverse.";
+      return SLX_TR("Ticks or clears Inverse.");
     case kCalcCommandRightShift:
-      return "Right shift.";
+      return SLX_TR("Right shift.");
     case kCalcCommandMemoryRecall:
-      return "Recalls the memory.";
+      return SLX_TR("Recalls the memory.");
     default:
       return nullptr;
   }
@@ -168,18 +171,18 @@ const char* calculatorCommandAction(int id) {
 
 std::vector<KeyListEntry> panelKeys(const Translator& translate) {
   const std::pair<const char*, const char*> rows[] = {
-      {"Ctrl+Tab", "Goes to the next tab of the control panel."},
-      {"Ctrl+Shift+Tab", "Goes to the previous tab of the control panel."},
-      {"Tab", "Goes to the next control of the page."},
-      {"Shift+Tab", "Goes to the previous control of the page."},
-      {"Left, Right", "On the tabs: goes to the tab beside."},
+      {"Ctrl+Tab", SLX_TR("Goes to the next tab of the control panel.")},
+      {"Ctrl+Shift+Tab", SLX_TR("Goes to the previous tab of the control panel.")},
+      {"Tab", SLX_TR("Goes to the next control of the page.")},
+      {"Shift+Tab", SLX_TR("Goes to the previous control of the page.")},
+      {"Left, Right", SLX_TR("On the tabs: goes to the tab beside.")},
       {"Up, Down",
-       "In a group of choices: chooses the one above or below; in a list: the item above or below."},
-      {"Space", "Presses the button, or ticks or clears the box, that has the focus."},
+       SLX_TR("In a group of choices: chooses the one above or below; in a list: the item above or below.")},
+      {"Space", SLX_TR("Presses the button, or ticks or clears the box, that has the focus.")},
       {"Left, Right, Page Up, Page Down, Home, End",
-       "On a slider: moves it by one, by a page, or to an end."},
-      {"F10", "Opens the menu bar."},
-      {"Esc", "Closes a menu or a dialog."},
+       SLX_TR("On a slider: moves it by one, by a page, or to an end.")},
+      {"F10", SLX_TR("Opens the menu bar.")},
+      {"Esc", SLX_TR("Closes a menu or a dialog.")},
   };
   std::vector<KeyListEntry> entries;
   for (const auto& [keys, action] : rows) {
@@ -213,7 +216,7 @@ std::vector<KeyListEntry> menuPaths(const Translator& translate) {
         if (!command || !command->menuText) break;
         const std::string text = translateMenuText(command->menuText, translate);
         QStringList keys;
-        keys << tr(translate, "Alt") + QLatin1Char('+') + path.front();
+        keys << tr(translate, SLX_TR("Alt")) + QLatin1Char('+') + path.front();
         for (std::size_t i = 1; i < path.size(); ++i) keys << path[i];
         keys << mnemonic(text);
         entries.push_back({keys.join(QStringLiteral(", ")), itemWords(text)});
@@ -231,7 +234,7 @@ std::vector<KeyListEntry> calculatorKeys(const Translator& translate) {
   const auto add = [&](int id) {
     QStringList keys;
     for (const std::string& each : calculatorKeysFor(id)) keys << calculatorKeysText(each, translate);
-    const QString keysText = keys.join(tr(translate, " or "));
+    const QString keysText = keys.join(tr(translate, SLX_TR(" or ")));
     // A key with two commands (memory recall) is listed once.
     if (std::find(done.begin(), done.end(), keysText) != done.end()) return;
     done.push_back(keysText);
@@ -253,17 +256,19 @@ std::vector<KeyListEntry> calculatorKeys(const Translator& translate) {
 
 std::vector<KeyListEntry> otherPageKeys(const Translator& translate) {
   const std::pair<const char*, const char*> rows[] = {
-      {"Enter", "On the Evaluator and Matrix pages: evaluates the expression, or stores name = expression."},
-      {"Up, Down", "On the Evaluator and Matrix pages: brings earlier entries back."},
-      {"Enter", "On the Data pages, in f(x): fills the table with f(x) over the function's domain."},
-      {"Ctrl+Z", "On the Data pages: undoes a paste or a load of the data set."},
+      {"Enter",
+       SLX_TR("On the Evaluator and Matrix pages: evaluates the expression, or stores name = expression.")},
+      {"Up, Down", SLX_TR("On the Evaluator and Matrix pages: brings earlier entries back.")},
+      {"Enter", SLX_TR("On the Data pages, in f(x): fills the table with f(x) over the function's domain.")},
+      {"Ctrl+Z", SLX_TR("On the Data pages: undoes a paste or a load of the data set.")},
   };
   std::vector<KeyListEntry> entries;
   for (const auto& [keys, action] : rows) {
     QStringList names;
     for (const QString& each : QString::fromLatin1(keys).split(QStringLiteral(", "))) {
       QStringList parts;
-      for (const QString& part : each.split(QLatin1Char('+'))) parts << tr(translate, part.toLatin1().constData());
+      for (const QString& part : each.split(QLatin1Char('+')))
+        parts << tr(translate, part.toLatin1().constData());
       names << parts.join(QLatin1Char('+'));
     }
     entries.push_back({names.join(QStringLiteral(", ")), tr(translate, action)});
@@ -280,9 +285,9 @@ QString escaped(const QString& text) {
 std::vector<KeyListSection> keyListSections(const Translator& given) {
   // The tables it reads expect a translator.
   const Translator translate = given ? given : [](const std::string& english) { return english; };
-  KeyListSection panel{"panel", tr(translate, "Moving around the program"), panelKeys(translate)};
-  KeyListSection commands{"commands", tr(translate, "Hot keys"), {}};
-  KeyListSection graph{"graph", tr(translate, "The graph and its sound"), {}};
+  KeyListSection panel{"panel", tr(translate, SLX_TR("Moving around the program")), panelKeys(translate)};
+  KeyListSection commands{"commands", tr(translate, SLX_TR("Hot keys")), {}};
+  KeyListSection graph{"graph", tr(translate, SLX_TR("The graph and its sound")), {}};
   for (const CommandSpec& command : CCommandTable::commands()) {
     if (command.keyCount == 0) continue;
     QStringList keys;
@@ -298,24 +303,24 @@ std::vector<KeyListSection> keyListSections(const Translator& given) {
   return {panel,
           commands,
           graph,
-          {"menus", tr(translate, "The menus"), menuPaths(translate)},
-          {"calculator", tr(translate, "The Calculator page"), calculatorKeys(translate)},
-          {"pages", tr(translate, "The Evaluator, Matrix and Data pages"), otherPageKeys(translate)}};
+          {"menus", tr(translate, SLX_TR("The menus")), menuPaths(translate)},
+          {"calculator", tr(translate, SLX_TR("The Calculator page")), calculatorKeys(translate)},
+          {"pages", tr(translate, SLX_TR("The Evaluator, Matrix and Data pages")), otherPageKeys(translate)}};
 }
 
 const std::vector<KeyListFile>& keyListFiles() {
   static const std::vector<KeyListFile> files{
-      {"keys.html", "Sonalyx keys", {}},
-      {"keys-navigation.html", "Navigational hotkeys", {"panel", "commands", "menus"}},
-      {"keys-graph.html", "Graphing hotkeys", {"graph"}},
-      {"keys-calculator.html", "Calculator hotkeys", {"calculator", "pages"}},
+      {"keys.html", SLX_TR("Sonalyx keys"), {}},
+      {"keys-navigation.html", SLX_TR("Navigational hotkeys"), {"panel", "commands", "menus"}},
+      {"keys-graph.html", SLX_TR("Graphing hotkeys"), {"graph"}},
+      {"keys-calculator.html", SLX_TR("Calculator hotkeys"), {"calculator", "pages"}},
   };
   return files;
 }
 
 QString keyListPage(const std::vector<KeyListSection>& sections, const QStringList& ids,
                     const QString& languageCode, const Translator& translate) {
-  QString title = tr(translate, "Sonalyx keys");
+  QString title = tr(translate, SLX_TR("Sonalyx keys"));
   for (const KeyListFile& file : keyListFiles()) {
     QStringList fileIds;
     for (const char* id : file.sectionIds) fileIds << QString::fromLatin1(id);
@@ -328,15 +333,15 @@ QString keyListPage(const std::vector<KeyListSection>& sections, const QStringLi
               .arg(escaped(title));
   html += QStringLiteral("<h1>%1</h1>\n").arg(escaped(title));
   html += QStringLiteral("<p>%1 <a href=\"index.html\">%2</a></p>\n")
-              .arg(escaped(tr(translate, "This list is made from the program's own tables of keys.")),
-                   escaped(tr(translate, "Back to the manual")));
+              .arg(escaped(tr(translate, SLX_TR("This list is made from the program's own tables of keys."))),
+                   escaped(tr(translate, SLX_TR("Back to the manual"))));
   for (const KeyListSection& section : sections) {
     if (!ids.isEmpty() && !ids.contains(section.id)) continue;
     html += QStringLiteral("<h2 id=\"%1\">%2</h2>\n").arg(escaped(section.id), escaped(section.title));
     html += QStringLiteral(
                 "<table>\n<thead><tr><th scope=\"col\">%1</th><th scope=\"col\">%2</th></tr></thead>\n"
                 "<tbody>\n")
-                .arg(escaped(tr(translate, "Keys")), escaped(tr(translate, "What they do")));
+                .arg(escaped(tr(translate, SLX_TR("Keys"))), escaped(tr(translate, SLX_TR("What they do"))));
     for (const KeyListEntry& entry : section.entries)
       html += QStringLiteral("<tr><td><kbd>%1</kbd></td><td>%2</td></tr>\n")
                   .arg(escaped(entry.keys), escaped(entry.action));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/speech/TranslationMarker.h"
+
 // What the program says about itself and where its maker is found: the one place
 // to change these addresses.
 namespace sonalyx::ui::product {
@@ -12,11 +14,11 @@ namespace sonalyx::ui::product {
 inline constexpr const char* kVersion = SONALYX_PRODUCT_VERSION;
 
 inline constexpr const char* kAppName = "sonalyx";
-inline constexpr const char* kTitle = "Sonalyx";
+inline constexpr const char* kTitle = SLX_TR("Sonalyx");
 
 // The program's licence. eSpeak NG, which the program links, is under the GPL
 // version 3 or later, so the whole is too.
-inline constexpr const char* kLicence = "GNU General Public License, version 3 or later";
+inline constexpr const char* kLicence = SLX_TR("GNU General Public License, version 3 or later");
 
 // The libraries and data the program is built with, and their licences, as the
 // About box names them.
@@ -25,14 +27,14 @@ struct UsedLibrary {
   const char* licence;
 };
 inline constexpr UsedLibrary kLibraries[] = {
-    {"Qt", "GNU Lesser General Public License, version 3"},
-    {"eSpeak NG", "GNU General Public License, version 3 or later"},
-    {"speech-dispatcher (libspeechd)", "GNU Lesser General Public License, version 2.1 or later"},
-    {"SDL 2", "zlib License"},
-    {"FluidSynth", "GNU Lesser General Public License, version 2.1 or later"},
-    {"libsndfile", "GNU Lesser General Public License, version 2.1 or later"},
-    {"Eigen", "Mozilla Public License, version 2.0"},
-    {"TimGM6mb sound font", "GNU General Public License, version 2"},
+    {"Qt", SLX_TR("GNU Lesser General Public License, version 3")},
+    {"eSpeak NG", SLX_TR("GNU General Public License, version 3 or later")},
+    {"speech-dispatcher (libspeechd)", SLX_TR("GNU Lesser General Public License, version 2.1 or later")},
+    {"SDL 2", SLX_TR("zlib License")},
+    {"FluidSynth", SLX_TR("GNU Lesser General Public License, version 2.1 or later")},
+    {"libsndfile", SLX_TR("GNU Lesser General Public License, version 2.1 or later")},
+    {"Eigen", SLX_TR("Mozilla Public License, version 2.0")},
+    {"TimGM6mb sound font", SLX_TR("GNU General Public License, version 2")},
 };
 
 inline constexpr const char* kWebAddress = "https://www.quillmont.example/";

@@ -52,7 +52,8 @@ QString CTTSButton::spokenText() const {
     }
   }
   text += m_spokenLabel.isEmpty() ? voiced::withoutMnemonic(m_button->text()) : m_spokenLabel;
-  if (m_kind == Kind::CheckBox) text += Translate(m_button->isChecked() ? " Checked." : " Unchecked.");
+  if (m_kind == Kind::CheckBox)
+    text += (m_button->isChecked() ? Translate(" Checked.") : Translate(" Unchecked."));
   if (m_kind == Kind::RadioButton) text += Translate(" Checked.");
   return text;
 }

@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CAccessibilityHooks.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/PrintSetupState.h"
@@ -78,10 +79,11 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   setAccessibleName(windowTitle());
   PrintSetupState& kept = m_app.printState();
   m_style = graphStyleFromSettings(m_app.settings());
+  m_style.decimalSign = DecimalSign();
 
-  auto* output = group(this, "Printer");
+  auto* output = group(this, SLX_TR("Printer"));
   auto* outputLayout = new QFormLayout(output);
-  m_printer = combo(output, "Printer:", "Printer");
+  m_printer = combo(output, SLX_TR("Printer:"), SLX_TR("Printer"));
   if (kept.printerNames.empty()) {
     m_printer->addItem(Translate("No printer installed"));
     m_printer->setAccessibleDescription(Translate("With no printer, Print saves the graph as a PDF file."));
@@ -90,20 +92,20 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   if (const int at = m_printer->findText(QString::fromStdString(kept.printer)); at >= 0)
     m_printer->setCurrentIndex(at);
   outputLayout->addRow(new QLabel(Translate("Printer:"), output), m_printer);
-  m_toFile = voicedToggle<QCheckBox>(output, "Print to file");
+  m_toFile = voicedToggle<QCheckBox>(output, SLX_TR("Print to file"));
   m_toFile->setAccessibleDescription(Translate("Saves the page as a PDF file instead of printing it."));
   m_toFile->setChecked(kept.toFile || kept.printerNames.empty());
   outputLayout->addRow(m_toFile);
-  m_fileName = edit(output, "File name:", "File name");
+  m_fileName = edit(output, SLX_TR("File name:"), SLX_TR("File name"));
   m_fileName->setAccessibleDescription(Translate("The PDF file the page is saved in."));
   m_fileName->setMathSymbols(false);
   m_fileName->setText(kept.fileName.empty() ? defaultFileName() : QString::fromStdString(kept.fileName));
   outputLayout->addRow(new QLabel(Translate("File name:"), output), m_fileName);
-  m_font = combo(output, "Font:", "Font");
+  m_font = combo(output, SLX_TR("Font:"), SLX_TR("Font"));
   m_font->addItems(QFontDatabase::families());
   const QString family = kept.fontFamily.empty() ? font().family() : QString::fromStdString(kept.fontFamily);
   m_font->setCurrentIndex(std::max(0, m_font->findText(family)));
-  m_fontSize = combo(output, "Font size:", "Font size");
+  m_fontSize = combo(output, SLX_TR("Font size:"), SLX_TR("Font size"));
   for (const int points : kFontPoints) m_fontSize->addItem(QString::number(points), points);
   m_fontSize->setCurrentIndex(std::max(0, m_fontSize->findData(kept.fontPoints)));
   auto* fonts = new QHBoxLayout();
@@ -112,16 +114,16 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   fonts->addWidget(m_fontSize);
   outputLayout->addRow(new QLabel(Translate("Font:"), output), fonts);
 
-  auto* size = group(this, "Size");
+  auto* size = group(this, SLX_TR("Size"));
   auto* sizeLayout = new QFormLayout(size);
-  m_width = edit(size, "Width:", "Width");
+  m_width = edit(size, SLX_TR("Width:"), SLX_TR("Width"));
   m_width->setAccessibleDescription(Translate("The graph's width on paper, in inches."));
   m_width->setText(QString::fromStdString(kept.width));
-  m_height = edit(size, "Height:", "Height");
+  m_height = edit(size, SLX_TR("Height:"), SLX_TR("Height"));
   m_height->setAccessibleDescription(Translate("The graph's height on paper, in inches."));
   m_height->setText(QString::fromStdString(kept.height));
-  m_portrait = voicedToggle<QRadioButton>(size, "Portrait");
-  m_landscape = voicedToggle<QRadioButton>(size, "Landscape");
+  m_portrait = voicedToggle<QRadioButton>(size, SLX_TR("Portrait"));
+  m_landscape = voicedToggle<QRadioButton>(size, SLX_TR("Landscape"));
   (kept.landscape ? m_landscape : m_portrait)->setChecked(true);
   auto* orientation = new QHBoxLayout();
   orientation->addWidget(m_portrait);
@@ -129,21 +131,21 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   sizeLayout->addRow(new QLabel(Translate("Width:"), size), m_width);
   sizeLayout->addRow(new QLabel(Translate("Height:"), size), m_height);
   sizeLayout->addRow(orientation);
-  m_paper = edit(size, "Paper size:", "Paper size");
+  m_paper = edit(size, SLX_TR("Paper size:"), SLX_TR("Paper size"));
   m_paper->setReadOnly(true);
   sizeLayout->addRow(new QLabel(Translate("Paper size:"), size), m_paper);
-  m_copies = edit(size, "Number of copies:", "Number of copies");
+  m_copies = edit(size, SLX_TR("Number of copies:"), SLX_TR("Number of copies"));
   m_copies->setText(QString::fromStdString(kept.copies));
   sizeLayout->addRow(new QLabel(Translate("Number of copies:"), size), m_copies);
-  m_title = edit(size, "Title:", "Title");
+  m_title = edit(size, SLX_TR("Title:"), SLX_TR("Title"));
   m_title->setAccessibleDescription(Translate("Printed above the graph."));
   m_title->setText(QString::fromStdString(kept.title));
   sizeLayout->addRow(new QLabel(Translate("Title:"), size), m_title);
 
-  auto* dataStyle = group(this, "Data Style");
+  auto* dataStyle = group(this, SLX_TR("Data Style"));
   auto* dataLayout = new QVBoxLayout(dataStyle);
-  const char* dataFaces[] = {"Draw Data Points", "Draw line through points",
-                             "Draw both line and data points"};
+  const char* dataFaces[] = {SLX_TR("Draw Data Points"), SLX_TR("Draw line through points"),
+                             SLX_TR("Draw both line and data points")};
   for (std::size_t i = 0; i < m_dataStyle.size(); ++i) {
     m_dataStyle[i] = voicedToggle<QRadioButton>(dataStyle, dataFaces[i]);
     dataLayout->addWidget(m_dataStyle[i]);
@@ -151,25 +153,25 @@ CSLXPrintDlg::CSLXPrintDlg(CGraphCalcApp& app, QWidget* parent) : QDialog(parent
   const bool points = m_style.showPoints, line = m_style.showLine;
   m_dataStyle[points && line ? 2 : line ? 1 : 0]->setChecked(true);
 
-  auto* axes = group(this, "Axes");
+  auto* axes = group(this, SLX_TR("Axes"));
   auto* axesLayout = new QVBoxLayout(axes);
-  m_showXAxis = voicedToggle<QCheckBox>(axes, "Show X-Axis");
-  m_showYAxis = voicedToggle<QCheckBox>(axes, "Show Y-Axis");
+  m_showXAxis = voicedToggle<QCheckBox>(axes, SLX_TR("Show X-Axis"));
+  m_showYAxis = voicedToggle<QCheckBox>(axes, SLX_TR("Show Y-Axis"));
   m_showXAxis->setChecked(m_style.showXAxis);
   m_showYAxis->setChecked(m_style.showYAxis);
   axesLayout->addWidget(m_showXAxis);
   axesLayout->addWidget(m_showYAxis);
-  auto* labels = group(this, "Axis Labels");
+  auto* labels = group(this, SLX_TR("Axis Labels"));
   auto* labelsLayout = new QVBoxLayout(labels);
-  m_xLabels = voicedToggle<QCheckBox>(labels, "X Labels");
-  m_yLabels = voicedToggle<QCheckBox>(labels, "Y Labels");
+  m_xLabels = voicedToggle<QCheckBox>(labels, SLX_TR("X Labels"));
+  m_yLabels = voicedToggle<QCheckBox>(labels, SLX_TR("Y Labels"));
   m_xLabels->setChecked(m_style.showXLabels);
   m_yLabels->setChecked(m_style.showYLabels);
   labelsLayout->addWidget(m_xLabels);
   labelsLayout->addWidget(m_yLabels);
-  auto* ticks = group(this, "Tick Marks");
+  auto* ticks = group(this, SLX_TR("Tick Marks"));
   auto* ticksLayout = new QVBoxLayout(ticks);
-  const char* tickFaces[] = {"No Tick Marks", "Tick Marks", "Grid Lines"};
+  const char* tickFaces[] = {SLX_TR("No Tick Marks"), SLX_TR("Tick Marks"), SLX_TR("Grid Lines")};
   for (std::size_t i = 0; i < m_ticks.size(); ++i) {
     m_ticks[i] = voicedToggle<QRadioButton>(ticks, tickFaces[i]);
     ticksLayout->addWidget(m_ticks[i]);
@@ -395,11 +397,11 @@ void CSLXPrintDlg::onPrint() {
   if (!printGraphPage(printer, m_app.dataSets(), choices())) {
     const QString where = printing() ? m_printer->currentText() : QDir::toNativeSeparators(file);
     refuse(printing() ? static_cast<QLineEdit*>(m_copies) : m_fileName,
-           say("The graph could not be printed on %s.", where));
+           say(SLX_TR("The graph could not be printed on %s."), where));
     return;
   }
-  m_outcome = printing() ? say("The graph is printed on %s.", m_printer->currentText())
-                         : say("The graph is saved in %s.", QDir::toNativeSeparators(file));
+  m_outcome = printing() ? say(SLX_TR("The graph is printed on %s."), m_printer->currentText())
+                         : say(SLX_TR("The graph is saved in %s."), QDir::toNativeSeparators(file));
   if (!printing()) m_app.printState().fileName = defaultFileName().toStdString();
   accept();
   voice::Speak(SpeechKind::Content, m_outcome);

@@ -8,6 +8,7 @@
 #include "core/files/WaveExport.h"
 #include "core/sound/EngineLoad.h"
 #include "core/sound/GraphPlayback.h"
+#include "core/sound/PlayTimeLimit.h"
 #include "platform/sound/OutputSequencer.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
@@ -74,9 +75,18 @@ void CGraphPlayer::writeWaveFile(QWidget* dialogParent) {
       Translate(kWaveFileFilter).replace(QStringLiteral("*.wav"), QString::fromUtf8(kWaveFilePattern)));
   if (chosen.isEmpty()) return;
   const std::string path = applyWavExtension(chosen.toStdString());
+  // Refused here too, so that the refusal is in the user's language.
+  if (!playTimeAllowed(store.GetPlayTime())) {
+    QMessageBox::critical(
+        dialogParent, caption,
+        QString::fromStdString(playTimeLimitText([](const std::string& text) { return Translate(text); })));
+    return;
+  }
   m_engine.WriteWaveToFile(path, !store.GetIsMono(), store.GetPlayTicks());
   if (!m_engine.lastWriteError().empty()) {
-    QMessageBox::critical(dialogParent, caption, QString::fromStdString(m_engine.lastWriteError()));
+    // A file error's text is its English key.
+    QMessageBox::critical(dialogParent, caption,
+                          Translate(QString::fromStdString(m_engine.lastWriteError())));
     return;
   }
   voice::Speak(

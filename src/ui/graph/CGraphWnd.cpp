@@ -57,7 +57,9 @@ const GraphScene& CGraphWnd::scene() {
 
 void CGraphWnd::rebuild() {
   const PlotRect rect{0, 0, width(), height()};
-  m_scene = buildGraphScene(m_app.dataSets(), graphStyleFromSettings(m_app.settings()), rect, m_cursor);
+  GraphStyle style = graphStyleFromSettings(m_app.settings());
+  style.decimalSign = DecimalSign();
+  m_scene = buildGraphScene(m_app.dataSets(), style, rect, m_cursor);
   const qreal ratio = devicePixelRatioF();
   m_cache = QPixmap(QSize(std::max(1, width()), std::max(1, height())) * ratio);
   m_cache.setDevicePixelRatio(ratio);

@@ -5,6 +5,7 @@
 
 #include "core/files/SelectedDataSet.h"
 #include "core/graph/GraphTicks.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/graph/CGraphWnd.h"
@@ -15,7 +16,7 @@ namespace sonalyx::ui {
 namespace {
 
 QString number(double value, const char* conversion) {
-  return QString::fromStdString(formatNumber(value, conversion));
+  return QString::fromStdString(withDecimalSign(formatNumber(value, conversion), DecimalSign()));
 }
 
 }  // namespace
@@ -28,7 +29,7 @@ CPlotWnd::CPlotWnd(CGraphCalcApp& app, QWidget* parent)
   white.setColor(QPalette::Window, Qt::white);
   white.setColor(QPalette::WindowText, Qt::black);
   setPalette(white);
-  const char* captions[] = {"x:", "y:", "Point:"};
+  const char* captions[] = {SLX_TR("x:"), SLX_TR("y:"), SLX_TR("Point:")};
   for (std::size_t i = 0; i < 3; ++i) {
     m_captions[i] = new QLabel(Translate(captions[i]), this);
     m_fields[i] = new QLabel(this);
@@ -48,7 +49,8 @@ void CPlotWnd::redraw() {
 }
 
 QString CPlotWnd::titleText() const {
-  static const char* names[] = {"Data Set 1", "Data Set 2", "Sum", "Difference"};
+  static const char* names[] = {SLX_TR("Data Set 1"), SLX_TR("Data Set 2"), SLX_TR("Sum"),
+                                SLX_TR("Difference")};
   const std::uint32_t setType = m_app.settings().GetSetType();
   QString title = Translate(names[selectedSlot(setType)]);
   const double factor = m_graph->scene().yLabelFactor;

@@ -16,6 +16,7 @@
 #include <cstdlib>
 
 #include "core/math/FitModel.h"
+#include "core/speech/TranslationMarker.h"
 #include "core/utility/NumberFormat.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
@@ -60,7 +61,7 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
   auto* exprRow = new QHBoxLayout();
   auto* exprLabel = new QLabel(Translate("f(x) = "), this);
   m_expr = new CTTSEdit(this);
-  m_expr->setSpokenLabel("f(x) = ");
+  m_expr->setSpokenLabel(SLX_TR("f(x) = "));
   exprLabel->setBuddy(m_expr);
   exprRow->addWidget(exprLabel);
   exprRow->addWidget(m_expr, 1);
@@ -78,8 +79,8 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
   auto* coordinatesRow = new QHBoxLayout(m_coordinates);
   m_rectangle = new QRadioButton(Translate("Rectangle"), m_coordinates);
   m_polar = new QRadioButton(Translate("Polar"), m_coordinates);
-  voiceOf(m_rectangle, "Rectangle", true);
-  voiceOf(m_polar, "Polar", true);
+  voiceOf(m_rectangle, SLX_TR("Rectangle"), true);
+  voiceOf(m_polar, SLX_TR("Polar"), true);
   m_rectangle->setChecked(true);
   coordinatesRow->addWidget(m_rectangle);
   coordinatesRow->addWidget(m_polar);
@@ -87,7 +88,7 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
 
   m_model = new CDataSetModel(m_session, this);
   m_table = new CDataTableView(this);
-  m_table->setSpokenLabel(slot == DataSet::Data1 ? "Data set 1 table" : "Data set 2 table");
+  m_table->setSpokenLabel(slot == DataSet::Data1 ? SLX_TR("Data set 1 table") : SLX_TR("Data set 2 table"));
   m_table->setDataModel(m_model);
   layout->addWidget(m_table, 1);
   connect(m_model, &CDataSetModel::edited, this, [this](const DataPageUpdate& update) {
@@ -104,7 +105,7 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
   auto* modeRow = new QHBoxLayout();
   auto* modeLabel = new QLabel(Translate("Mode:"), m_statsGroup);
   m_mode = new CTTSComboBox(m_statsGroup);
-  m_mode->setSpokenLabel("Mode:");
+  m_mode->setSpokenLabel(SLX_TR("Mode:"));
   modeLabel->setBuddy(m_mode);
   for (int model = 0; model < kFitModelCount; ++model)
     m_mode->addItem(Translate(
@@ -117,7 +118,7 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
   m_results->setAccessibleName(Translate("Results"));
   statsLayout->addWidget(m_results, 1);
   m_plotFit = new QPushButton(Translate("Plot Fitted Curve"), m_statsGroup);
-  voiceOf(m_plotFit, "Plot Fitted Curve", false);
+  voiceOf(m_plotFit, SLX_TR("Plot Fitted Curve"), false);
   m_plotFit->setEnabled(false);
   statsLayout->addWidget(m_plotFit);
   m_statsGroup->hide();
@@ -132,7 +133,7 @@ CDataPage::CDataPage(std::size_t slot, const QString& caption, QWidget* parent)
   buttons->addWidget(m_statsButton);
   if (slot == DataSet::Data1) {
     m_plotSet2 = new QCheckBox(Translate("Plot Data Set 2"), this);
-    voiceOf(m_plotSet2, "Plot Data Set 2", true);
+    voiceOf(m_plotSet2, SLX_TR("Plot Data Set 2"), true);
     buttons->addWidget(m_plotSet2);
     connect(m_plotSet2, &QCheckBox::clicked, this, [this](bool checked) {
       app().settings().SetSetType(checked ? 1 : 0);
@@ -255,7 +256,7 @@ void CDataPage::ToggleStatistics() {
 
 void CDataPage::showStatistics(bool shown) {
   m_statisticsShown = shown;
-  m_statsButton->setText(Translate(shown ? "Return to Data Table" : "Evaluate Statistics"));
+  m_statsButton->setText(shown ? Translate("Return to Data Table") : Translate("Evaluate Statistics"));
   m_table->setVisible(!shown);
   m_coordinates->setVisible(!shown);
   m_expr->setEnabled(!shown);

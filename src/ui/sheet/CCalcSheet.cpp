@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QResizeEvent>
 
+#include "core/speech/TranslationMarker.h"
 #include "ui/accessible/AccessibleTree.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
@@ -48,8 +49,9 @@ CCalcPage* createPage(int index, const QString& caption) {
 }  // namespace
 
 const std::array<const char*, CCalcSheet::kPageCount>& CCalcSheet::englishCaptions() {
-  static const std::array<const char*, kPageCount> captions{"Plot",   "Wave",   "Speech",    "Calculator",
-                                                            "Data 1", "Data 2", "Evaluator", "Matrix"};
+  static const std::array<const char*, kPageCount> captions{
+      SLX_TR("Plot"),   SLX_TR("Wave"),   SLX_TR("Speech"),    SLX_TR("Calculator"),
+      SLX_TR("Data 1"), SLX_TR("Data 2"), SLX_TR("Evaluator"), SLX_TR("Matrix")};
   return captions;
 }
 

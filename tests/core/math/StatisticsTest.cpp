@@ -62,7 +62,7 @@ TEST(FitText, WritesAndKeepsMagnitudesBelow1e11AsZero) {
     double kept;
   } cases[] = {{1e-11, "a: 1e-011", 1e-11}, {-9.9e-12, "a: 0", 0.0}, {nan, "a: Error", nan}};
   for (const auto& c : cases) {
-    EXPECT_EQ(FitText::coefficientLine('a', c.value), c.line) << c.value;
+    EXPECT_EQ(FitText({}).coefficientLine('a', c.value), c.line) << c.value;
     EXPECT_TRUE(test::agreesTo(FitText::zeroed(c.value), c.kept, 17)) << c.value;
   }
 }

@@ -4,6 +4,11 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
+
+#include "core/math/FitText.h"
+#include "core/pages/PrintSetupForm.h"
+#include "core/speech/Catalogue.h"
 
 namespace sonalyx {
 namespace {
@@ -41,6 +46,35 @@ TEST(CoordinatePhrase, TranslatesThePowerOfTenWords) {
     return text == "times ten to the" ? "fois dix puissance" : text == "minus" ? "moins" : text;
   };
   EXPECT_EQ(spokenValue(-1.5e-20, 5, french), "-1.5 fois dix puissance moins 20");
+}
+
+// What is written for a person takes the language's decimal sign, from the
+// translator every phrase builder is given; what it means stays the same.
+TEST(CoordinatePhrase, NumbersForAPersonTakeTheLanguagesDecimalSign) {
+  const struct {
+    const char* locale;  // of the language file; none for English
+    const char* coordinate;
+    const char* fitLine;
+    const char* sizeLine;
+  } cases[] = {
+      {nullptr, "x = -2.5, y = 1.5 times ten to the minus 20", "Mean value of x: 0.125", "8.5 x 11.0 inches"},
+      {"sv_SE", "x = -2,5, y = 1,5 times ten to the minus 20", "Mean value of x: 0,125", "8,5 x 11,0 inches"},
+      {"fr_FR", "x = -2,5, y = 1,5 times ten to the minus 20", "Mean value of x: 0,125", "8,5 x 11,0 inches"},
+      {"de_DE", "x = -2,5, y = 1,5 times ten to the minus 20", "Mean value of x: 0,125", "8,5 x 11,0 inches"},
+      {"es_ES", "x = -2,5, y = 1,5 times ten to the minus 20", "Mean value of x: 0,125", "8,5 x 11,0 inches"},
+  };
+  for (const auto& c : cases) {
+    const Catalogue catalogue =
+        c.locale
+            ? Catalogue::fromTsText(std::string("<TS version=\"2.1\" language=\"") + c.locale + "\"></TS>")
+            : Catalogue();
+    const Translator translate = catalogue.translator();
+    EXPECT_EQ(coordinatePhrase(-2.5, 1.5e-20, 5, translate), c.coordinate) << c.locale;
+    EXPECT_EQ(FitText(translate).valueLine("Mean value of x:", 0.125), c.fitLine) << c.locale;
+    EXPECT_EQ(PrintSetupForm::sizeLine(translate, 8.5, 11.0), c.sizeLine) << c.locale;
+    // Whole numbers and the words for a failed value have no decimal sign.
+    EXPECT_EQ(coordinatePhrase(3.0, std::nan(""), 2, translate), "x = 3, y = Error") << c.locale;
+  }
 }
 
 }  // namespace

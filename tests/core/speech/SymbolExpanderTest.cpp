@@ -83,7 +83,29 @@ TEST(SymbolExpander, TranslatesEachReplacementOnceWhenBuilt) {
   std::string text = "2*3-1";
   expander.ExpandSymbols(text);
   EXPECT_EQ(text, "2 mal 3 minus 1");
-  EXPECT_EQ(calls, 13);  // 11 symbols, "times ten to the" and "minus"
+  EXPECT_EQ(calls, 14);  // 11 symbols, "times ten to the", "minus" and the decimal sign
+}
+
+TEST(SymbolExpander, ReadsNumbersWithTheLanguagesDecimalSign) {
+  const Translator french = [](const std::string& text) { return text == kDecimalSignKey ? "," : text; };
+  SymbolExpander expander(expressionSymbolTable(), french);
+  expander.BuildSymbolMap();
+  const struct {
+    const char* text;
+    const char* expected;
+  } cases[] = {
+      {"0.5+x", "0,5 plus x"},
+      {"2.5e-007", "2,5 times ten to the minus 7"},
+      {"1/3 = 0,33", "1 divide 3 = 0,33"},                    // a shown result
+      {"[1,2.5]", " begin matrix 1 column 2,5 end matrix "},  // a matrix keeps its columns
+      {"a,b", "a column b"},
+      {"end.", "end."},
+  };
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    expander.ExpandSymbols(text);
+    EXPECT_EQ(text, c.expected) << c.text;
+  }
 }
 
 }  // namespace

@@ -108,6 +108,28 @@ TEST(CDirectSS, AppliesTheStoredVoiceAndPercentsOfTheEngineRanges) {
   }
 }
 
+TEST(CDirectSS, TheProgramsLanguageChoosesTheVoiceBeforeAndAfterTheEngineStarts) {
+  const Voices installed{{"English (Great Britain)", "French (France)", "Swedish"},
+                         0,
+                         {0, 100},
+                         {0, 100},
+                         {0, 100},
+                         {"en-gb", "fr-fr", "sv"}};
+  Rig rig;
+  rig.settings.SetVoice("Sam");
+  CaptureSpeechEngine* engine = nullptr;
+  CDirectSS early(rig.settings);
+  early.setLanguage("sv");
+  auto capture = std::make_unique<CaptureSpeechEngine>([] { return 0.0; }, installed);
+  engine = capture.get();
+  early.Create(std::move(capture));
+  EXPECT_EQ(engine->currentVoice(), "Swedish");
+  auto later = rig.voice(engine, installed);
+  EXPECT_EQ(engine->currentVoice(), "English (Great Britain)");
+  later->setLanguage("fr");
+  EXPECT_EQ(engine->currentVoice(), "French (France)");
+}
+
 TEST(CDirectSS, OffersFilteredVoicesAndDoesNothingWithoutAnEngine) {
   Rig rig;
   CaptureSpeechEngine* engine = nullptr;

@@ -1,6 +1,7 @@
 #include "platform/qt/speech/SystemSpeechEngine.h"
 
 #include <QList>
+#include <QLocale>
 #include <QObject>
 #include <QString>
 #include <QTextToSpeech>
@@ -37,6 +38,16 @@ struct SystemSpeechEngine::Impl {
   std::uint64_t generation = 0;  // a delayed start still counts only if nothing came after it
   bool startWaiting = false;
 
+  // The service lists the voices of its current locale only.
+  void readVoices() {
+    voices = speech.availableVoices();
+    defaultVoice = 0;
+    const QVoice current = speech.voice();
+    for (qsizetype i = 0; i < voices.size(); ++i) {
+      if (voices[i] == current) defaultVoice = static_cast<std::size_t>(i);
+    }
+  }
+
   void start(const QString& text) {
     if (!sharedService) {
       speech.say(text);  // interrupts this program's own voice only
@@ -60,11 +71,7 @@ struct SystemSpeechEngine::Impl {
 SystemSpeechEngine::SystemSpeechEngine() : m_impl(std::make_unique<Impl>()) {
   Impl& impl = *m_impl;
   impl.sharedService = impl.speech.engine() == QLatin1String(kSharedServiceEngine);
-  impl.voices = impl.speech.availableVoices();
-  const QVoice current = impl.speech.voice();
-  for (qsizetype i = 0; i < impl.voices.size(); ++i) {
-    if (impl.voices[i] == current) impl.defaultVoice = static_cast<std::size_t>(i);
-  }
+  impl.readVoices();
   QObject::connect(&impl.speech, &QTextToSpeech::stateChanged, &impl.context,
                    [&impl](QTextToSpeech::State state) { impl.onStateChanged(state); });
 }
@@ -119,6 +126,28 @@ std::vector<std::string> SystemSpeechEngine::voices() const {
   std::vector<std::string> names;
   for (const QVoice& voice : m_impl->voices) names.push_back(voice.name().toStdString());
   return names;
+}
+
+std::vector<std::string> SystemSpeechEngine::voiceLanguages() const {
+  std::vector<std::string> tags;
+  for (const QVoice& voice : m_impl->voices) tags.push_back(voice.locale().name().toStdString());
+  return tags;
+}
+
+void SystemSpeechEngine::useLanguage(const std::string& language) {
+  Impl& impl = *m_impl;
+  const QLocale wanted(QString::fromStdString(language));
+  if (language.empty() || impl.speech.locale().language() == wanted.language()) return;
+  // The language's main country when the service has it, else any of its countries.
+  const QList<QLocale> offered = impl.speech.availableLocales();
+  const QLocale* chosen = nullptr;
+  for (const QLocale& locale : offered) {
+    if (locale.language() != wanted.language()) continue;
+    if (chosen == nullptr || locale.territory() == wanted.territory()) chosen = &locale;
+  }
+  if (chosen == nullptr) return;
+  impl.speech.setLocale(*chosen);
+  impl.readVoices();
 }
 
 std::size_t SystemSpeechEngine::defaultVoice() const {

@@ -32,6 +32,8 @@ class SystemSpeechEngine : public SpeechEngine {
   bool isSpeaking() const override;
   std::vector<std::string> voices() const override;
   std::size_t defaultVoice() const override;
+  std::vector<std::string> voiceLanguages() const override;
+  void useLanguage(const std::string& language) override;
   bool selectVoice(std::size_t index) override;
   std::string currentVoice() const override;
   EngineRange range(SpeechSetting setting) const override;

@@ -18,6 +18,7 @@
 #include "core/pages/CalculatorKeyboard.h"
 #include "core/speech/CalculatorAnnouncements.h"
 #include "core/speech/CalculatorKeyIds.h"
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSButton.h"
@@ -143,7 +144,7 @@ void CCalculatorPage::buildControls() {
   modes->addWidget(m_memory);
 
   m_base = new CTTSComboBox(this);
-  const char* bases[] = {"Hex", "Dec", "Oct", "Bin"};
+  const char* bases[] = {SLX_TR("Hex"), SLX_TR("Dec"), SLX_TR("Oct"), SLX_TR("Bin")};
   for (int index = 0; index < 4; ++index) {
     m_base->addItem(Translate(bases[index]));
     m_base->setItemData(index, Translate(fromView(numberBaseAnnouncement(index))), Qt::AccessibleTextRole);
@@ -154,7 +155,7 @@ void CCalculatorPage::buildControls() {
   modes->addWidget(m_base);
 
   m_angle = new CTTSComboBox(this);
-  const char* angles[] = {"Deg", "Rad", "Grad"};
+  const char* angles[] = {SLX_TR("Deg"), SLX_TR("Rad"), SLX_TR("Grad")};
   for (int index = 0; index < 3; ++index) {
     m_angle->addItem(Translate(angles[index]));
     m_angle->setItemData(index, Translate(fromView(angleModeAnnouncement(index))), Qt::AccessibleTextRole);
@@ -175,8 +176,9 @@ void CCalculatorPage::buildControls() {
     modes->addWidget(box);
     return box;
   };
-  m_inverse = makeBox("Inv", kInverseSpokenLabel, kCalcCommandInverseBox, kCalcCommandInverse);
-  m_hyperbolic = makeBox("Hyp", kHyperbolicSpokenLabel, kCalcCommandHyperbolicBox, kCalcCommandHyperbolic);
+  m_inverse = makeBox(SLX_TR("Inv"), kInverseSpokenLabel, kCalcCommandInverseBox, kCalcCommandInverse);
+  m_hyperbolic =
+      makeBox(SLX_TR("Hyp"), kHyperbolicSpokenLabel, kCalcCommandHyperbolicBox, kCalcCommandHyperbolic);
   connect(m_inverse, &QCheckBox::clicked, this, [this](bool checked) { m_engine.inverse = checked; });
   connect(m_hyperbolic, &QCheckBox::clicked, this, [this](bool checked) { m_engine.hyperbolic = checked; });
   layout->addLayout(modes);

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSEdit.h"
@@ -85,8 +86,8 @@ void CMatrixPage::recall(bool up) {
 
 void CMatrixPage::CopyMatrix() {
   const bool copied = m_window->copyToClipboard();
-  voice::Speak(SpeechKind::Content,
-               Translate(copied ? "Matrix copied to the clipboard." : "There is no matrix to copy."));
+  voice::Speak(SpeechKind::Content, copied ? Translate("Matrix copied to the clipboard.")
+                                           : Translate("There is no matrix to copy."));
 }
 
 }  // namespace sonalyx::ui

@@ -10,6 +10,7 @@
 
 #include "core/math/DataSet.h"
 #include "core/settings/SettingsStore.h"
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/controls/CTTSButton.h"
 #include "ui/controls/CTTSEdit.h"
@@ -30,13 +31,15 @@ struct FieldText {
 };
 
 constexpr std::array<FieldText, PlotPageForm::kFieldCount> kFieldTexts{{
-    {"Start:", "Start:", "Start", "Where f(x) is first sampled."},
-    {"Finish:", "Finish:", "Finish", "Where f(x) is last sampled; above Start."},
-    {"# Pts:", "Number of points:", "Number of points", "How many points f(x) is sampled at."},
-    {"X min:", "X min:", "X min", "The left end of the graph."},
-    {"X max:", "X max:", "X max", "The right end of the graph."},
-    {"Y min:", "Y min:", "Y min", "The bottom of the graph."},
-    {"Y max:", "Y max:", "Y max", "The top of the graph."},
+    {SLX_TR("Start:"), SLX_TR("Start:"), SLX_TR("Start"), SLX_TR("Where f(x) is first sampled.")},
+    {SLX_TR("Finish:"), SLX_TR("Finish:"), SLX_TR("Finish"),
+     SLX_TR("Where f(x) is last sampled; above Start.")},
+    {SLX_TR("# Pts:"), SLX_TR("Number of points:"), SLX_TR("Number of points"),
+     SLX_TR("How many points f(x) is sampled at.")},
+    {SLX_TR("X min:"), SLX_TR("X min:"), SLX_TR("X min"), SLX_TR("The left end of the graph.")},
+    {SLX_TR("X max:"), SLX_TR("X max:"), SLX_TR("X max"), SLX_TR("The right end of the graph.")},
+    {SLX_TR("Y min:"), SLX_TR("Y min:"), SLX_TR("Y min"), SLX_TR("The bottom of the graph.")},
+    {SLX_TR("Y max:"), SLX_TR("Y max:"), SLX_TR("Y max"), SLX_TR("The top of the graph.")},
 }};
 
 QGroupBox* addGroup(QVBoxLayout* column, QWidget* parent, const char* title) {
@@ -51,13 +54,13 @@ QGroupBox* addGroup(QVBoxLayout* column, QWidget* parent, const char* title) {
 CPlotPage::CPlotPage(const QString& caption, QWidget* parent) : CSettingsPage(caption, parent) {
   QWidget* page = content();
 
-  auto* source = addGroup(column(), page, "Source");
+  auto* source = addGroup(column(), page, SLX_TR("Source"));
   auto* sourceLayout = new QVBoxLayout(source);
   const std::array<std::pair<const char*, const char*>, 4> sources{
-      {{"Data Set 1", nullptr},
-       {"Data Set 2", nullptr},
-       {"Sum (1+2)", nullptr},
-       {"Difference (1-2)", "Difference (1 minus 2)"}}};
+      {{SLX_TR("Data Set 1"), nullptr},
+       {SLX_TR("Data Set 2"), nullptr},
+       {SLX_TR("Sum (1+2)"), nullptr},
+       {SLX_TR("Difference (1-2)"), SLX_TR("Difference (1 minus 2)")}}};
   for (std::uint32_t type = 0; type < sources.size(); ++type) {
     m_source[type] = addRadio(source, sources[type].first, sources[type].second);
     sourceLayout->addWidget(m_source[type]);
@@ -66,9 +69,10 @@ CPlotPage::CPlotPage(const QString& caption, QWidget* parent) : CSettingsPage(ca
     });
   }
 
-  auto* calculus = addGroup(column(), page, "Calculus Plot");
+  auto* calculus = addGroup(column(), page, SLX_TR("Calculus Plot"));
   auto* calculusLayout = new QVBoxLayout(calculus);
-  const std::array<const char*, 3> calculusFaces{"Function", "Integral", "Derivative"};
+  const std::array<const char*, 3> calculusFaces{SLX_TR("Function"), SLX_TR("Integral"),
+                                                 SLX_TR("Derivative")};
   for (std::size_t i = 0; i < calculusFaces.size(); ++i) {
     m_calculus[i] = addRadio(calculus, calculusFaces[i]);
     calculusLayout->addWidget(m_calculus[i]);
@@ -87,47 +91,50 @@ CPlotPage::CPlotPage(const QString& caption, QWidget* parent) : CSettingsPage(ca
     connect(m_fields[field], &QLineEdit::textEdited, this, &CPlotPage::onFieldEdited);
   };
 
-  auto* domain = addGroup(column(), page, "Function Domain");
+  auto* domain = addGroup(column(), page, SLX_TR("Function Domain"));
   auto* domainLayout = new QFormLayout(domain);
   for (const int field : {PlotPageForm::Start, PlotPageForm::Finish, PlotPageForm::Points})
     addField(domainLayout, domain, field);
 
-  auto* range = addGroup(column(), page, "Graph Range");
+  auto* range = addGroup(column(), page, SLX_TR("Graph Range"));
   auto* rangeLayout = new QFormLayout(range);
   addField(rangeLayout, range, PlotPageForm::XMin);
   addField(rangeLayout, range, PlotPageForm::XMax);
   // Both boxes read "Auto-Scale"; spoken, each names its axis.
-  m_autoScaleX = addToggle(range, "Auto-Scale", &SettingsStore::GetAutoScaleX, &SettingsStore::SetAutoScaleX,
-                           "X Auto-Scale");
+  m_autoScaleX = addToggle(range, SLX_TR("Auto-Scale"), &SettingsStore::GetAutoScaleX,
+                           &SettingsStore::SetAutoScaleX, SLX_TR("X Auto-Scale"));
   rangeLayout->addRow(m_autoScaleX);
   addField(rangeLayout, range, PlotPageForm::YMin);
   addField(rangeLayout, range, PlotPageForm::YMax);
-  m_autoScaleY = addToggle(range, "Auto-Scale", &SettingsStore::GetAutoScaleY, &SettingsStore::SetAutoScaleY,
-                           "Y Auto-Scale");
+  m_autoScaleY = addToggle(range, SLX_TR("Auto-Scale"), &SettingsStore::GetAutoScaleY,
+                           &SettingsStore::SetAutoScaleY, SLX_TR("Y Auto-Scale"));
   rangeLayout->addRow(m_autoScaleY);
 
-  auto* mode = addGroup(column(), page, "Mode");
+  auto* mode = addGroup(column(), page, SLX_TR("Mode"));
   auto* modeLayout = new QVBoxLayout(mode);
-  modeLayout->addWidget(addToggle(mode, "Points", &SettingsStore::GetShowPts, &SettingsStore::SetShowPts));
-  modeLayout->addWidget(addToggle(mode, "Line", &SettingsStore::GetShowLine, &SettingsStore::SetShowLine));
   modeLayout->addWidget(
-      addToggle(mode, "Error Bars", &SettingsStore::GetShowEBars, &SettingsStore::SetShowEBars));
+      addToggle(mode, SLX_TR("Points"), &SettingsStore::GetShowPts, &SettingsStore::SetShowPts));
+  modeLayout->addWidget(
+      addToggle(mode, SLX_TR("Line"), &SettingsStore::GetShowLine, &SettingsStore::SetShowLine));
+  modeLayout->addWidget(
+      addToggle(mode, SLX_TR("Error Bars"), &SettingsStore::GetShowEBars, &SettingsStore::SetShowEBars));
 
-  auto* axes = addGroup(column(), page, "Axes");
+  auto* axes = addGroup(column(), page, SLX_TR("Axes"));
   auto* axesLayout = new QVBoxLayout(axes);
-  m_showXAxis = addToggle(axes, "Show X-axis", &SettingsStore::GetShowXAxis, &SettingsStore::SetShowXAxis);
+  m_showXAxis =
+      addToggle(axes, SLX_TR("Show X-axis"), &SettingsStore::GetShowXAxis, &SettingsStore::SetShowXAxis);
   axesLayout->addWidget(m_showXAxis);
   axesLayout->addWidget(
-      addToggle(axes, "Show Y-axis", &SettingsStore::GetShowYAxis, &SettingsStore::SetShowYAxis));
-  axesLayout->addWidget(
-      addToggle(axes, "Display X labels", &SettingsStore::GetShowXLabels, &SettingsStore::SetShowXLabels));
-  axesLayout->addWidget(
-      addToggle(axes, "Display Y labels", &SettingsStore::GetShowYLabels, &SettingsStore::SetShowYLabels));
+      addToggle(axes, SLX_TR("Show Y-axis"), &SettingsStore::GetShowYAxis, &SettingsStore::SetShowYAxis));
+  axesLayout->addWidget(addToggle(axes, SLX_TR("Display X labels"), &SettingsStore::GetShowXLabels,
+                                  &SettingsStore::SetShowXLabels));
+  axesLayout->addWidget(addToggle(axes, SLX_TR("Display Y labels"), &SettingsStore::GetShowYLabels,
+                                  &SettingsStore::SetShowYLabels));
 
-  auto* frame = addGroup(column(), page, "Frame");
+  auto* frame = addGroup(column(), page, SLX_TR("Frame"));
   auto* frameLayout = new QVBoxLayout(frame);
   const std::array<std::pair<const char*, const char*>, 3> frames{
-      {{"None", "No ticks or grid."}, {"Tick", nullptr}, {"Grid", nullptr}}};
+      {{SLX_TR("None"), SLX_TR("No ticks or grid.")}, {SLX_TR("Tick"), nullptr}, {SLX_TR("Grid"), nullptr}}};
   for (std::uint32_t type = 0; type < frames.size(); ++type) {
     m_frame[type] = addRadio(frame, frames[type].first, frames[type].second);
     frameLayout->addWidget(m_frame[type]);

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CAccessibilityHooks.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
@@ -53,17 +54,19 @@ CLexiconDlg::CLexiconDlg(PronunciationLexicon lexicon, QWidget* parent)
   listLabel->setBuddy(m_list);
 
   m_word = new CTTSEdit(this);
-  m_word->setSpokenLabel("Word:");
+  m_word->setSpokenLabel(SLX_TR("Word:"));
   m_word->setAccessibleDescription(Translate("The word as the program writes it."));
   m_spoken = new CTTSEdit(this);
-  m_spoken->setSpokenLabel("Say as:");
+  m_spoken->setSpokenLabel(SLX_TR("Say as:"));
   m_spoken->setAccessibleDescription(Translate("How the voice is to say it."));
   auto* fields = new QFormLayout();
   fields->addRow(Translate("Word:"), m_word);
   fields->addRow(Translate("Say as:"), m_spoken);
 
-  QPushButton* add = voicedButton("Add", "Puts the word and how to say it in the list.", this);
-  QPushButton* remove = voicedButton("Remove", "Takes the chosen word out of the list.", this);
+  QPushButton* add =
+      voicedButton(SLX_TR("Add"), SLX_TR("Puts the word and how to say it in the list."), this);
+  QPushButton* remove =
+      voicedButton(SLX_TR("Remove"), SLX_TR("Takes the chosen word out of the list."), this);
   connect(add, &QPushButton::clicked, this, &CLexiconDlg::add);
   connect(remove, &QPushButton::clicked, this, &CLexiconDlg::remove);
   auto* editing = new QHBoxLayout();
@@ -115,7 +118,7 @@ void CLexiconDlg::add() {
     ++row;
   }
   refill(row);
-  voice::Speak(SpeechKind::Content, filled("Added %1, said as %2.", word, spoken));
+  voice::Speak(SpeechKind::Content, filled(SLX_TR("Added %1, said as %2."), word, spoken));
 }
 
 void CLexiconDlg::remove() {
@@ -127,7 +130,7 @@ void CLexiconDlg::remove() {
   const QString word = QString::fromStdString(m_lexicon.entries()[row].word);
   m_lexicon.remove(static_cast<std::size_t>(row));
   refill(row);
-  voice::Speak(SpeechKind::Content, filled("Removed %1.", word));
+  voice::Speak(SpeechKind::Content, filled(SLX_TR("Removed %1."), word));
 }
 
 void CLexiconDlg::showEvent(QShowEvent* event) {

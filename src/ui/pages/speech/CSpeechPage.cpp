@@ -9,6 +9,7 @@
 
 #include "core/settings/SettingsStore.h"
 #include "core/speech/PronunciationLexicon.h"
+#include "core/speech/TranslationMarker.h"
 #include "platform/speech/CDirectSS.h"
 #include "platform/speech/SelfVoicing.h"
 #include "platform/speech/SpeechEngineRegistry.h"
@@ -50,24 +51,25 @@ QString aboutText() {
 
 // The spoken descriptions of the engine buttons: what each does here.
 constexpr const char* kAboutSpoken =
-    "About TTS. This button tells the name, version and voice of your speech engine.";
+    SLX_TR("About TTS. This button tells the name, version and voice of your speech engine.");
 constexpr const char* kGeneralSpoken =
-    "General. This button chooses the speech engine: eSpeak NG or the system's speech service.";
-constexpr const char* kTranslateSpoken =
+    SLX_TR("General. This button chooses the speech engine: eSpeak NG or the system's speech service.");
+constexpr const char* kTranslateSpoken = SLX_TR(
     "Translate. This button only says what it is for: Sonalyx speaks in the language of your desktop, so "
-    "choose a voice of that language in the list of voices.";
+    "choose a voice of that language in the list of voices.");
 constexpr const char* kLexiconSpoken =
-    "Lexicon. This button opens the pronunciation list: words and how the voice says them.";
+    SLX_TR("Lexicon. This button opens the pronunciation list: words and how the voice says them.");
 
 }  // namespace
 
 CSpeechPage::CSpeechPage(const QString& caption, QWidget* parent) : CSettingsPage(caption, parent) {
   QWidget* page = content();
 
-  auto* numbers = addGroup(column(), page, "Numbers");
+  auto* numbers = addGroup(column(), page, SLX_TR("Numbers"));
   auto* numbersLayout = new QVBoxLayout(numbers);
-  m_decimals = makeEdit("Number of decimal places to voice:", "Number of decimal places to voice",
-                        "How many decimal places spoken numbers keep, from 0 to 15.");
+  m_decimals =
+      makeEdit(SLX_TR("Number of decimal places to voice:"), SLX_TR("Number of decimal places to voice"),
+               SLX_TR("How many decimal places spoken numbers keep, from 0 to 15."));
   m_decimals->setParent(numbers);
   auto* decimalsLabel = new QLabel(Translate("Number of decimal places to voice:"), numbers);
   decimalsLabel->setWordWrap(true);
@@ -80,7 +82,7 @@ CSpeechPage::CSpeechPage(const QString& caption, QWidget* parent) : CSettingsPag
     if (!typed.check()) clearRefusal();
   });
 
-  auto* voiceGroup = addGroup(column(), page, "Voice");
+  auto* voiceGroup = addGroup(column(), page, SLX_TR("Voice"));
   auto* voiceLayout = new QVBoxLayout(voiceGroup);
   m_voices = new CTTSListBox(voiceGroup);
   m_voices->setReadSymbols(false);
@@ -96,15 +98,15 @@ CSpeechPage::CSpeechPage(const QString& caption, QWidget* parent) : CSettingsPag
   const std::array<std::tuple<const char*, const char*, std::uint32_t (SettingsStore::*)() const,
                               bool (SettingsStore::*)(std::uint32_t) const, bool (*)(std::uint32_t)>,
                    3>
-      sliders{{{"Rate", "How fast the voice speaks.", &SettingsStore::GetRate, &SettingsStore::SetRate,
-                [](std::uint32_t v) { return voice::device().SetRate(v); }},
-               {"Pitch", "How high the voice speaks.", &SettingsStore::GetPitch, &SettingsStore::SetPitch,
-                [](std::uint32_t v) { return voice::device().SetPitch(v); }},
-               {"Volume", "How loud the voice speaks.", &SettingsStore::GetVol, &SettingsStore::SetVol,
-                [](std::uint32_t v) { return voice::device().SetVolume(v); }}}};
+      sliders{{{SLX_TR("Rate"), SLX_TR("How fast the voice speaks."), &SettingsStore::GetRate,
+                &SettingsStore::SetRate, [](std::uint32_t v) { return voice::device().SetRate(v); }},
+               {SLX_TR("Pitch"), SLX_TR("How high the voice speaks."), &SettingsStore::GetPitch,
+                &SettingsStore::SetPitch, [](std::uint32_t v) { return voice::device().SetPitch(v); }},
+               {SLX_TR("Volume"), SLX_TR("How loud the voice speaks."), &SettingsStore::GetVol,
+                &SettingsStore::SetVol, [](std::uint32_t v) { return voice::device().SetVolume(v); }}}};
   for (std::size_t i = 0; i < sliders.size(); ++i) {
     const auto& [name, description, get, set, apply] = sliders[i];
-    CTTSSliderCtrl* slider = makeSlider(name, "percent.", description, 0, 100, 10);
+    CTTSSliderCtrl* slider = makeSlider(name, SLX_TR("percent."), description, 0, 100, 10);
     slider->setParent(voiceGroup);
     slider->setTickInterval(10);
     slider->setTickPosition(QSlider::TicksBelow);
@@ -116,18 +118,19 @@ CSpeechPage::CSpeechPage(const QString& caption, QWidget* parent) : CSettingsPag
     connect(slider, &QAbstractSlider::valueChanged, this, [this, i] { onSlider(m_sliders[i]); });
   }
 
-  auto* voicing = addGroup(column(), page, "Self-Voicing");
+  auto* voicing = addGroup(column(), page, SLX_TR("Self-Voicing"));
   auto* voicingLayout = new QVBoxLayout(voicing);
   m_soundEffects = new QCheckBox(Translate("Sound Effects"), voicing);
   new CTTSButton(m_soundEffects);
   m_selfVoicing = new QCheckBox(Translate("Allow Self-Voicing"), voicing);
   new CTTSButton(m_selfVoicing);
   m_mode = new CTTSComboBox(voicing);
-  m_mode->setSpokenLabel("Beside a screen reader:");
+  m_mode->setSpokenLabel(SLX_TR("Beside a screen reader:"));
   m_mode->setAccessibleDescription(Translate(
       "What self-voicing says while a screen reader runs: everything, or only what the screen reader "
       "cannot know."));
-  for (const char* item : {"Speak everything", "Speak only what the screen reader cannot", "Automatic"})
+  for (const char* item :
+       {SLX_TR("Speak everything"), SLX_TR("Speak only what the screen reader cannot"), SLX_TR("Automatic")})
     m_mode->addItem(Translate(item));
   auto* modeLabel = new QLabel(Translate("Beside a screen reader:"), voicing);
   modeLabel->setBuddy(m_mode);
@@ -141,20 +144,21 @@ CSpeechPage::CSpeechPage(const QString& caption, QWidget* parent) : CSettingsPag
     app->setSfxOn(on);
     // The earcon leads the words that go with it.
     if (on) app->PlaySoundEffect(2);
-    voiced::say(m_soundEffects, SpeechKind::Echo,
-                Translate(on ? "Allow sound effects: checked." : "Allow sound effects: unchecked."));
+    voiced::say(
+        m_soundEffects, SpeechKind::Echo,
+        on ? Translate("Allow sound effects: checked.") : Translate("Allow sound effects: unchecked."));
   });
   connect(m_selfVoicing, &QCheckBox::clicked, this,
           [this](bool on) { setSelfVoicing(on, settings(), voice::device(), translator()); });
   connect(m_mode, &QComboBox::activated, this,
           [this](int index) { settings().SetTtsMode(static_cast<std::uint32_t>(index)); });
 
-  auto* engine = addGroup(column(), page, "Speech Engine");
+  auto* engine = addGroup(column(), page, SLX_TR("Speech Engine"));
   auto* engineLayout = new QGridLayout(engine);
-  QPushButton* about = addEngineButton("About TTS", kAboutSpoken);
-  QPushButton* general = addEngineButton("General", kGeneralSpoken);
-  QPushButton* translate = addEngineButton("Translate", kTranslateSpoken);
-  QPushButton* lexicon = addEngineButton("Lexicon", kLexiconSpoken);
+  QPushButton* about = addEngineButton(SLX_TR("About TTS"), kAboutSpoken);
+  QPushButton* general = addEngineButton(SLX_TR("General"), kGeneralSpoken);
+  QPushButton* translate = addEngineButton(SLX_TR("Translate"), kTranslateSpoken);
+  QPushButton* lexicon = addEngineButton(SLX_TR("Lexicon"), kLexiconSpoken);
   engineLayout->addWidget(about, 0, 0);
   engineLayout->addWidget(general, 0, 1);
   engineLayout->addWidget(translate, 1, 0);

@@ -10,6 +10,7 @@
 #include "core/limits/Limits.h"
 #include "core/settings/SettingsStore.h"
 #include "core/sound/PlayTimeLimit.h"
+#include "core/speech/TranslationMarker.h"
 #include "ui/app/CGraphCalcApp.h"
 #include "ui/app/Voice.h"
 #include "ui/controls/CTTSButton.h"
@@ -50,19 +51,21 @@ CWavePage::CWavePage(const QString& caption, QWidget* parent) : CSettingsPage(ca
 
   auto* volume = addGroup(column(), page, Translate("Volume"));
   auto* volumeLayout = new QVBoxLayout(volume);
-  addSlider(volume, "Data set:", "Data set volume:", "percent.", "How loud the curve plays.", 0, 100, 10,
-            &SettingsStore::GetWaveVolume, &SettingsStore::SetWaveVolume);
+  addSlider(volume, SLX_TR("Data set:"), SLX_TR("Data set volume:"), SLX_TR("percent."),
+            SLX_TR("How loud the curve plays."), 0, 100, 10, &SettingsStore::GetWaveVolume,
+            &SettingsStore::SetWaveVolume);
   m_playTicks = new QCheckBox(Translate("Tick Marks:"), volume);
-  voiceToggle(m_playTicks, "Tick Marks");
+  voiceToggle(m_playTicks, SLX_TR("Tick Marks"));
   volumeLayout->addWidget(m_sliders.back().caption);
   volumeLayout->addWidget(m_sliders.back().slider);
   volumeLayout->addWidget(m_playTicks);
-  addSlider(volume, "Tick volume:", "Tick volume:", "percent.", "How loud the tick marks click.", 0, 100, 10,
-            &SettingsStore::GetTickVolume, &SettingsStore::SetTickVolume);
+  addSlider(volume, SLX_TR("Tick volume:"), SLX_TR("Tick volume:"), SLX_TR("percent."),
+            SLX_TR("How loud the tick marks click."), 0, 100, 10, &SettingsStore::GetTickVolume,
+            &SettingsStore::SetTickVolume);
   volumeLayout->addWidget(m_sliders.back().caption);
   volumeLayout->addWidget(m_sliders.back().slider);
-  m_tickCount = makeEdit("# of vertical tick marks:", "Number of vertical tick marks",
-                         "How many tick marks a sweep passes, from 5 to 15.");
+  m_tickCount = makeEdit(SLX_TR("# of vertical tick marks:"), SLX_TR("Number of vertical tick marks"),
+                         SLX_TR("How many tick marks a sweep passes, from 5 to 15."));
   m_tickCount->setParent(volume);
   m_tickCountLabel = new QLabel(Translate("# of vertical tick marks:"), volume);
   m_tickCountLabel->setBuddy(m_tickCount);
@@ -72,9 +75,10 @@ CWavePage::CWavePage(const QString& caption, QWidget* parent) : CSettingsPage(ca
   auto* threshold = addGroup(column(), page, Translate("Y Threshold"));
   auto* thresholdLayout = new QVBoxLayout(threshold);
   m_thresholdOn = new QCheckBox(Translate("Y Threshold Level:"), threshold);
-  voiceToggle(m_thresholdOn, "Y Threshold Level");
-  m_threshold = makeEdit("Y Threshold Level:", "Y threshold level",
-                         "Below this y the tone turns buzzier, so you hear where the curve passes it.");
+  voiceToggle(m_thresholdOn, SLX_TR("Y Threshold Level"));
+  m_threshold =
+      makeEdit(SLX_TR("Y Threshold Level:"), SLX_TR("Y threshold level"),
+               SLX_TR("Below this y the tone turns buzzier, so you hear where the curve passes it."));
   m_threshold->setParent(threshold);
   thresholdLayout->addWidget(m_thresholdOn);
   thresholdLayout->addWidget(m_threshold);
@@ -82,9 +86,10 @@ CWavePage::CWavePage(const QString& caption, QWidget* parent) : CSettingsPage(ca
   m_playTimeGroup = addGroup(column(), page, playTimeTitle(4));
   auto* playTimeLayout = new QVBoxLayout(m_playTimeGroup);
   Slider& playTime =
-      addSlider(m_playTimeGroup, "Play time:", "Play time:", "seconds.", "How long the whole curve plays.",
-                static_cast<int>(limits::kShortestPlayTime), static_cast<int>(limits::kLongestPlayTime), 10,
-                &SettingsStore::GetPlayTime, &SettingsStore::SetPlayTime);
+      addSlider(m_playTimeGroup, SLX_TR("Play time:"), SLX_TR("Play time:"), SLX_TR("seconds."),
+                SLX_TR("How long the whole curve plays."), static_cast<int>(limits::kShortestPlayTime),
+                static_cast<int>(limits::kLongestPlayTime), 10, &SettingsStore::GetPlayTime,
+                &SettingsStore::SetPlayTime);
   playTimeLayout->addWidget(playTime.caption);
   playTimeLayout->addWidget(playTime.slider);
   // The slider ends at the limits; a key that would pass one says it.
@@ -115,12 +120,12 @@ CWavePage::CWavePage(const QString& caption, QWidget* parent) : CSettingsPage(ca
 
   auto* frequency = addGroup(column(), page, Translate("Frequency Range"));
   auto* frequencyLayout = new QVBoxLayout(frequency);
-  for (Slider* row : {&addSlider(frequency, "Minimum", "Frequency minimum", "hertz.",
-                                 "The pitch of the lowest y.", kLowestMinimumHz, kHighestMinimumHz, 100,
-                                 &SettingsStore::GetMinFreq, &SettingsStore::SetMinFreq),
-                      &addSlider(frequency, "Maximum", "Frequency maximum", "hertz.",
-                                 "The pitch of the highest y.", kLowestMaximumHz, kHighestMaximumHz, 1000,
-                                 &SettingsStore::GetMaxFreq, &SettingsStore::SetMaxFreq)}) {
+  for (Slider* row : {&addSlider(frequency, SLX_TR("Minimum"), SLX_TR("Frequency minimum"), SLX_TR("hertz."),
+                                 SLX_TR("The pitch of the lowest y."), kLowestMinimumHz, kHighestMinimumHz,
+                                 100, &SettingsStore::GetMinFreq, &SettingsStore::SetMinFreq),
+                      &addSlider(frequency, SLX_TR("Maximum"), SLX_TR("Frequency maximum"), SLX_TR("hertz."),
+                                 SLX_TR("The pitch of the highest y."), kLowestMaximumHz, kHighestMaximumHz,
+                                 1000, &SettingsStore::GetMaxFreq, &SettingsStore::SetMaxFreq)}) {
     row->slider->setSingleStep(10);
     frequencyLayout->addWidget(row->caption);
     frequencyLayout->addWidget(row->slider);

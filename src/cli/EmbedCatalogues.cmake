@@ -1,0 +1,22 @@
+# Writes OUTPUT, a C++ source holding the text of each language file in LANGUAGES
+# (code=path pairs separated by "|"), so that sonalyx-cli needs no file at run time.
+# Bytes rather than a string literal: the text is UTF-8 and long.
+set(body "// Generated from translations/*.ts by EmbedCatalogues.cmake; do not edit.\n")
+string(APPEND body "#include \"cli/BuiltInCatalogues.h\"\n\nnamespace sonalyx::cli {\n\nnamespace {\n")
+set(cases "")
+string(REPLACE "|" ";" pairs "${LANGUAGES}")
+foreach(pair IN LISTS pairs)
+  if(pair STREQUAL "")
+    continue()
+  endif()
+  string(REPLACE "=" ";" parts "${pair}")
+  list(GET parts 0 code)
+  list(GET parts 1 path)
+  file(READ "${path}" hex HEX)
+  string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
+  string(APPEND body "const unsigned char k_${code}[] = {${bytes}0x00};\n")
+  string(APPEND cases "  if (code == \"${code}\") return {reinterpret_cast<const char*>(k_${code}), sizeof k_${code} - 1};\n")
+endforeach()
+string(APPEND body "}  // namespace\n\nstd::string_view builtInCatalogueText(std::string_view code) {\n${cases}  return {};\n}\n\n}  // namespace sonalyx::cli\n")
+file(WRITE "${OUTPUT}.tmp" "${body}")
+file(COPY_FILE "${OUTPUT}.tmp" "${OUTPUT}" ONLY_IF_DIFFERENT)
